@@ -1,0 +1,204 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/notification_centre.h"
+#include "app/shell_state.h"
+#include "methods/method_choice.h"
+#include "methods/pattern_buffers.h"
+#include "ports/error.h"
+#include "ports/ports.h"
+#include "remote/authentication.h"
+#include "remote/remote_order.h"
+#include "volumes/volume_table.h"
+#include "wipe/wipe_run.h"
+
+namespace calvero {
+
+struct Colour;
+
+/// The one controller. Both faces call its methods and look at its state; all rules of the wipe are behind it.
+///
+/// Unless a group says otherwise its methods run on the event loop thread. Methods that take a `WipeRun` are steps of
+/// that run and are called on its threads; where a step also serves a cancel it may run on either. A query beyond the
+/// volume table throws std::out_of_range. The controller must outlive every thread that it started.
+class AppDelegate {
+ public:
+  /// Creates the controller and calls `init`.
+  explicit AppDelegate(const Ports& ports);
+  ~AppDelegate();
+  AppDelegate(const AppDelegate&) = delete;
+  AppDelegate& operator=(const AppDelegate&) = delete;
+
+  // --- Start-up: app/start_up.cpp ---
+
+  /// Gives all state its first values, reads the remote order and lists the volumes. Called again by every reload.
+  void init();
+  /// Launch completion: registers the observers, resets the wizard, prepares the pattern buffers, describes the
+  /// selected volume, and starts an ordered wipe.
+  void applicationDidFinishLaunching();
+  /// The wizard's buttons as the first page needs them; clears the flags of the last run.
+  void setHideIBObjectsAtLaunch();
+
+  // --- The wizard: app/wizard.cpp ---
+
+  /// Volume page to method page; refuses a read-only volume.
+  void next();
+  /// To the volume page, from anywhere.
+  void back();
+  /// The progress page's figures, just before a run.
+  void setIBObjectsBeforeWipe();
+
+  // --- Methods: methods/method_selection.cpp, methods/pattern_buffers.cpp ---
+
+  void fastZeroWipe();
+  void randomWipe();
+  void dODWipe();
+  void fourth_NAVSO();
+  void fifth_NATO();
+  void sixth_VSITR_GERMAN();
+  void seventh_FAST_ZERO_WRITE();
+  void eight_PETER_GUTTMAN();
+  void ninth_ALGORITHM();
+  /// Calls the handler of erase method `number` (0 to 8), as if its button had been pressed.
+  void chooseMethod(std::int32_t number);
+  /// Applies the remote order's method; a value outside "1" to "9" leaves the choice as it is. Worker thread.
+  void redirectToAlog();
+  /// The texts of the method page.
+  void setMethodTexts();
+
+  /// Prepares the six pattern buffers. Once, before any run.
+  void createBuffersForErasing();
+  /// The buffer that zero-based pass `numPass` of `method` writes; null where the plan has none. The first two
+  /// arguments never change the result. Any thread.
+  const std::uint8_t* fillBuffer(const std::uint8_t* current, std::int32_t size, std::int32_t method,
+                                 std::int32_t numPass) const;
+
+  // --- Volumes: volumes/enumeration.cpp, volumes/selected_volume.cpp ---
+
+  void loadVolumes();
+  /// A new empty list of filler files; no volume array is touched.
+  void allocateAllArrays();
+  void reloadVolumes();
+
+  [[nodiscard]] std::uint64_t freeSpaceOnDisk() const;  ///< bytes, as listed
+  [[nodiscard]] std::string capacityOfDisk() const;     ///< a size text
+  [[nodiscard]] std::string nameSelectedVolume() const;
+  [[nodiscard]] std::string fileSystemSelectedVolume() const;  ///< "HFSPlus" or "FAT", nothing else
+  /// The mount path of the volume of that name; nothing when it is not mounted.
+  std::optional<std::string> getVolumePath(const std::string& name);
+  std::optional<std::string> getVolumePathForRow(std::size_t row);
+  std::optional<std::string> getVolumePathForRow2(std::size_t row);
+  void setSelectedVolumeDescription();
+
+  /// Whether the selected volume can be wiped now: mounted, writable, its filler directory ours to make and not in use
+  /// by another run. Creates and changes nothing. For a face to ask before it starts anything.
+  Error checkSelectedVolume();
+  void tableViewSelectionDidChange();
+  void collectionViewDidChangeSelection();
+  /// Selects a volume by its index and describes it.
+  void setCurrentSelection(std::size_t row);
+
+  // --- The run: wipe/ ---
+
+  /// Asks for confirmation, unless the wipe was ordered remotely, and starts the run.
+  void proceed();
+
+  // Steps of a run, on its worker thread.
+  void startPhaseOne(WipeRun& run);
+  void startPhaseTwo(WipeRun& run);
+  void wipeFreeSpace(WipeRun& run);
+  void createFile(WipeRun& run);
+  [[nodiscard]] std::uint64_t getNumbOfFiles(const WipeRun& run) const;
+  void fillFilePath(WipeRun& run, const std::string& path, std::uint64_t size);
+  void deleteByFiles(WipeRun& run, std::uint64_t index);
+  /// Gives back all space and removes the filler directory; ends a finished remote run. Worker thread at the end of a
+  /// run, event loop thread on a cancel.
+  void deleteFiles(WipeRun& run);
+
+  // Bodies of the run's other threads.
+  void setElapsedTime(WipeRun& run);
+  void setElapsedData();
+
+  void cancelWipe();
+  void OKBtn();             ///< the completion window's button
+  void eraseCompletedOK();  ///< the completion page's button
+
+  /// Any thread.
+  [[nodiscard]] static std::string getElapsedTimeForInterval(double seconds);
+  [[nodiscard]] static std::string getElapsedData(std::uint64_t finishedFiles);
+  [[nodiscard]] static std::string getFormattedStringForSize(std::uint64_t bytes);
+
+  // --- Remote orders: remote/remote_mode.cpp ---
+
+  void myCloud();
+  void checkForTermination();
+  void cancelProcess();
+  /// Any thread.
+  void popUp(const Colour& colour, const std::string& text);
+
+  // --- Looking in ---
+
+  [[nodiscard]] bool abortErasing() const { return run_->abortErasing != 0; }
+  void setAbortErasing(bool abort) { run_->abortErasing = abort ? 1 : 0; }
+  [[nodiscard]] const std::string& CDriveName() const { return order_.CDriveName; }
+  /// The run that is under way, or the idle one that the next start will take.
+  [[nodiscard]] RunPtr currentRun() const { return run_; }
+  [[nodiscard]] const VolumeTable& volumes() const { return *volumes_; }
+  [[nodiscard]] const MethodChoice& methodChoice() const { return choice_; }
+  [[nodiscard]] const ShellState& shell() const { return shell_; }
+  [[nodiscard]] const RemoteOrder& order() const { return order_; }
+  [[nodiscard]] std::size_t selectedTableRow() const { return selectedTableRow_; }
+  NotificationCentre& notifications() { return notifications_; }
+
+ private:
+  void readRemoteOrder();
+  void appendVolume(VolumeTable& table, const MountedVolume& volume);
+  void selectMethod(std::int32_t number);
+  void resetMethodChoice();
+
+  [[nodiscard]] bool wipeConfirmed();
+  /// Puts a fresh run with the same flags in the current one's place, and tells the old one to stop.
+  void replaceRun();
+  /// From now on no earlier run may touch the screen or end the application.
+  void outliveEarlierRuns();
+  void startRunThreads();
+  void runWorker(WipeRun& run);
+  void makeFillerDirectory(WipeRun& run, const std::string& volumePath);
+  void finishRun(WipeRun& run);
+  void removeFillerDirectory(WipeRun& run, const std::string& volumePath);
+  void reportRemoteCompletion(WipeRun& run);
+  void setPhase(WipeRun& run, const std::string& key);
+  void returnToFirstPageAfterCancel();
+  void endCancelledRemoteRun();
+
+  [[nodiscard]] VolumeSelection selection() const { return {volumes_, selectedTableRow_}; }
+  [[nodiscard]] VolumeSelection volumeOf(const WipeRun& run) const;
+  /// The mount path of the run's volume; nothing, once the volume is gone.
+  std::optional<std::string> volumePathOf(WipeRun& run);
+  std::optional<std::string> findVolume(WipeRun& run, const std::string& name);
+
+  /// Tells that the state is lost, and ends the application. The run takes no further step.
+  void reportUnknownError(WipeRun& run);
+  void endApplication(WipeRun& run);
+  [[nodiscard]] std::string localised(const std::string& key) const;
+
+  Ports ports_;
+  ShellState shell_;
+  NotificationCentre notifications_;
+  Authentication authentication_;
+  RemoteOrder order_;
+  MethodChoice choice_;
+  PatternBuffers buffers_;
+  std::shared_ptr<const VolumeTable> volumes_;
+  std::size_t selectedTableRow_ = 0;
+  RunPtr run_;
+  std::vector<std::weak_ptr<WipeRun>> earlierRuns_;  ///< those whose threads may still be on their way out
+};
+
+}  // namespace calvero

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "volumes/item.h"
+
+namespace calvero {
+
+/// What the application shell remembers. Event loop thread.
+struct ShellState {
+  std::int16_t cancelNumber = 0;  ///< cancellations since launch; kept as a count only
+  std::uint8_t admin = 0;         ///< nothing sets it
+  std::uint8_t eraseCompleted = 0;
+  std::uint8_t wipingProcessOn = 0;  ///< a run is under way: the window may not be closed
+  std::uint8_t display = 0;          ///< the window is shown; nothing reads it
+  std::string createFilePath;        ///< "test" until a volume is chosen, then its mount path
+  std::string selectedVolumePath;    ///< one blank; nothing else reads or writes it
+  std::map<std::string, std::string> mutdictForArrayController;  ///< the row that was added last
+  std::map<std::string, std::string> dictEraseOption;
+  CurrentSelection curSel;
+  std::size_t currentSelectionG = 0;  ///< the picker's index, shared by the tiles and the controller
+};
+
+}  // namespace calvero

@@ -1,0 +1,61 @@
+#include "app/app_delegate.h"
+#include "methods/method_catalogue.h"
+#include "ports/alerts.h"
+#include "ports/controls.h"
+#include "ports/mounted_volumes.h"
+
+namespace calvero {
+
+void AppDelegate::next() {
+  const auto path = getVolumePath(volumes_->volumeNameArray.at(selectedTableRow_));
+  if (path && ports_.mountedVolumes.isReadOnly(*path) == true) {
+    ports_.alerts.runModal({localised("Information"), localised("Read only drive, please select other drives"),
+                            localised("Ok"), localised("")});
+    return;
+  }
+
+  Controls& controls = ports_.controls;
+  controls.reloadTable();
+  resetMethodChoice();
+  const std::string freeSpace = getFormattedStringForSize(freeSpaceOnDisk());
+  controls.setText(Control::tfUnsecuredData, freeSpace);
+  controls.setText(Control::tfCleanedSize, freeSpace);
+  controls.selectPage(Page::method);
+  controls.hide(Control::buttonNext);
+  controls.show(Control::buttonBack);
+  controls.show(Control::buttonProceed);
+  shell_.createFilePath = getVolumePathForRow(selectedTableRow_).value_or("");
+  allocateAllArrays();
+}
+
+void AppDelegate::resetMethodChoice() {
+  Controls& controls = ports_.controls;
+  controls.turnOn(Control::butFastZeroWipe);
+  for (const Control button : kButtonOrder) {
+    if (button != Control::butFastZeroWipe) controls.turnOff(button);
+  }
+  // The first three are set twice, as the sequence of this step has it.
+  controls.turnOn(Control::butFastZeroWipe);
+  controls.turnOff(Control::butDOD5220);
+  controls.turnOff(Control::butRandomWipe);
+  choice_.numPassSelected = 1;
+  choice_.eraseMethodSelected = 0;
+}
+
+void AppDelegate::back() {
+  ports_.controls.selectPage(Page::volume);
+  ports_.controls.reloadTable();
+  setHideIBObjectsAtLaunch();
+  run_->volumeEjected = 0;
+}
+
+void AppDelegate::setIBObjectsBeforeWipe() {
+  Controls& controls = ports_.controls;
+  controls.setText(Control::tfFreespaceData, getFormattedStringForSize(freeSpaceOnDisk()));
+  controls.show(Control::buttonCancel);
+  controls.setText(Control::tfElapsedData, " ");
+  controls.setText(Control::tfElapsedTime, "00:00:00");
+  controls.setText(Control::tfElapsedData, "0.00 KB");
+}
+
+}  // namespace calvero

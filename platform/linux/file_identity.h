@@ -1,0 +1,40 @@
+#pragma once
+
+#include <sys/stat.h>
+#include <sys/types.h>
+
+#include <cstdint>
+#include <optional>
+
+namespace calvero {
+
+/// What tells one file, folder or link from every other, and what a run must know before it touches it.
+struct FileIdentity {
+  dev_t device = 0;
+  std::uint64_t inode = 0;
+  std::uint64_t mountId = 0;  ///< 0 where the kernel does not tell (before Linux 5.8)
+  mode_t mode = 0;
+  uid_t owner = 0;
+  std::uint64_t links = 0;
+  std::uint64_t sizeBytes = 0;
+  std::uint64_t allocatedBytes = 0;
+
+  [[nodiscard]] bool isFolder() const { return S_ISDIR(mode); }
+  [[nodiscard]] bool isSymbolicLink() const { return S_ISLNK(mode); }
+  [[nodiscard]] bool isPlainFile() const { return S_ISREG(mode); }
+  [[nodiscard]] bool isSameFile(const FileIdentity& other) const {
+    return inode == other.inode && device == other.device && isOnSameMount(other);
+  }
+  /// Tells a bind mount of the same file system from the file system's own folder, which the device number cannot.
+  [[nodiscard]] bool isOnSameMount(const FileIdentity& other) const {
+    return mountId != 0 ? mountId == other.mountId : device == other.device;
+  }
+};
+
+/// The identity of an open file; nothing, with errno set, when it cannot be read.
+std::optional<FileIdentity> identityOf(int descriptor);
+
+/// The identity of what is under `name` in the folder `folder`, a symbolic link itself and not its target.
+std::optional<FileIdentity> identityAt(int folder, const char* name);
+
+}  // namespace calvero

@@ -1,0 +1,104 @@
+#include "platform/linux/filler_place.h"
+
+#include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+#include "platform/linux/posix_error.h"
+
+namespace calvero {
+
+namespace {
+
+constexpr auto kExfatMagic = 0x2011BAB0U;  // not in the kernel's exported headers
+constexpr auto kNtfs3Magic = 0x7366746EU;
+
+bool fileSystemShowsNoOwners(int descriptor) {
+  struct statfs properties = {};
+  if (::fstatfs(descriptor, &properties) != 0) return false;
+  switch (static_cast<std::uint32_t>(properties.f_type)) {
+    case MSDOS_SUPER_MAGIC:
+    case kExfatMagic:
+    case kNtfs3Magic:
+    case FUSE_SUPER_MAGIC:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+std::optional<FillerPlace> FillerPlace::open(const std::string& volumePath, const std::string& directoryPath,
+                                             Error& error) {
+  // O_PATH: a volume whose root may be written but not listed is as good as any other.
+  OpenFolder root;
+  root.descriptor =
+      Descriptor(retryInterrupted([&] { return ::open(volumePath.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
+  const auto identity = root.isOpen() ? identityOf(root.get()) : std::nullopt;
+  if (!identity) {
+    error = posixError("open", volumePath, errno);
+    return {};
+  }
+  root.identity = *identity;
+  return FillerPlace(std::move(root), directoryPath);
+}
+
+FillerPlace::FillerPlace(OpenFolder root, std::string path)
+    : root_(std::move(root)),
+      path_(std::move(path)),
+      name_(path_.substr(path_.rfind('/') + 1)),
+      showsNoOwners_(fileSystemShowsNoOwners(root_.get())) {}
+
+Error FillerPlace::checkWritable() const {
+  if (::faccessat(root_.get(), ".", W_OK | X_OK, AT_EACCESS) == 0) return {};
+  return posixError("faccessat", path_, errno);
+}
+
+Error FillerPlace::makeDirectory() const {
+  if (retryInterrupted([&] { return ::mkdirat(root_.get(), name_.c_str(), S_IRWXU); }) == 0) return {};
+  return posixError("mkdirat", path_, errno);
+}
+
+const char* FillerPlace::whyNotOurs(const FileIdentity& found) const {
+  if (found.isSymbolicLink()) return "it is a symbolic link";
+  if (!found.isFolder()) return "it is not a folder";
+  if (!found.isOnSameMount(root_.identity)) return "it is a mount point";
+  // Btrfs gives each subvolume a device number of its own.
+  if (found.device != root_.identity.device) return "it is on another file system";
+  if (found.owner == ::geteuid()) return nullptr;
+  if (showsNoOwners_ && found.owner == root_.identity.owner) return nullptr;
+  return "it belongs to another user";
+}
+
+OpenFolder FillerPlace::openDirectory(Error& error) const {
+  const OpenFolder found = lookUp(root_.get(), name_.c_str(), path_, error);
+  if (!found.isOpen()) return {};
+  if (const char* reason = whyNotOurs(found.identity)) {
+    error = {ErrorCode::notOurs, "openat", path_, reason};
+    return {};
+  }
+  return openFound(found, path_, error);
+}
+
+bool FillerPlace::leadsTo(const OpenFolder& directory) const {
+  const auto found = identityAt(root_.get(), name_.c_str());
+  return found && found->isSameFile(directory.identity);
+}
+
+Error FillerPlace::removeDirectory(const OpenFolder& directory) const {
+  const auto found = identityAt(root_.get(), name_.c_str());
+  if (!found && errno != ENOENT) return posixError("statx", path_, errno);
+  if (!found) {
+    const auto left = identityOf(directory.get());
+    if (!left || left->links == 0) return posixError("unlinkat", path_, ENOENT);
+  }
+  if (!found || !found->isSameFile(directory.identity)) {
+    return {ErrorCode::notOurs, "unlinkat", path_, "the folder was moved away"};
+  }
+  if (retryInterrupted([&] { return ::unlinkat(root_.get(), name_.c_str(), AT_REMOVEDIR); }) == 0) return {};
+  return posixError("unlinkat", path_, errno);
+}
+
+}  // namespace calvero

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/linux/open_folder.h"
+#include "ports/error.h"
+
+namespace calvero {
+
+/// The name in a volume's root under which a filler directory is, or will be. The volume is treated as hostile: what
+/// is found under the name is believed to be a run's only after it has been looked at.
+class FillerPlace {
+ public:
+  /// Opens the volume's root. Nothing, with `error` filled, on failure.
+  static std::optional<FillerPlace> open(const std::string& volumePath, const std::string& directoryPath, Error& error);
+
+  [[nodiscard]] const std::string& path() const { return path_; }
+  /// Where files have no owners of their own and show the mount's owner instead, as on FAT.
+  [[nodiscard]] bool showsNoOwners() const { return showsNoOwners_; }
+
+  /// Whether a directory could be made under the name. Makes nothing.
+  [[nodiscard]] Error checkWritable() const;
+  /// Makes the directory, mode 0700; `exists` when the name is taken.
+  [[nodiscard]] Error makeDirectory() const;
+  /// Opens the directory under the name if it may be a run's: `notOurs` for a link, a mount point, another user's
+  /// directory, and what is no directory at all.
+  OpenFolder openDirectory(Error& error) const;
+  /// Whether the name still leads to that directory.
+  [[nodiscard]] bool leadsTo(const OpenFolder& directory) const;
+  /// Removes the name of the directory, which must be empty, unless it leads elsewhere by now.
+  [[nodiscard]] Error removeDirectory(const OpenFolder& directory) const;
+
+ private:
+  FillerPlace(OpenFolder root, std::string path);
+  [[nodiscard]] const char* whyNotOurs(const FileIdentity& found) const;
+
+  OpenFolder root_;
+  std::string path_;
+  std::string name_;
+  bool showsNoOwners_;
+};
+
+}  // namespace calvero

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/linux/open_folder.h"
+#include "ports/error.h"
+
+namespace calvero {
+
+/// Removes everything in `folder`, folders with their contents included. No link is followed, and a folder that leads
+/// to another mount is left. What cannot be removed does not keep the rest from being removed; the first failure of
+/// the last pass is returned. `path` is for reports only.
+Error emptyFolder(const OpenFolder& folder, const std::string& path);
+
+/// Fails with `notOurs` when the folder holds a folder that is not empty: no run makes one. Changes nothing.
+Error checkLeftContents(const OpenFolder& folder, const std::string& path);
+
+/// Space taken by those plain files in the folder that have no name elsewhere.
+std::uint64_t allocatedBytesOfFiles(const OpenFolder& folder);
+
+}  // namespace calvero

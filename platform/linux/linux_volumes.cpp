@@ -1,0 +1,137 @@
+#include "platform/linux/linux_volumes.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+
+#include <algorithm>
+#include <system_error>
+
+#include "platform/linux/block_device.h"
+#include "platform/linux/format_description.h"
+#include "platform/linux/posix_error.h"
+#include "platform/linux/reserved_blocks.h"
+#include "platform/linux/volume_names.h"
+
+namespace calvero {
+
+namespace {
+
+bool isFolder(const std::string& path) {
+  struct statx found = {};
+  const int result = ::statx(AT_FDCWD, path.c_str(), AT_NO_AUTOMOUNT | AT_SYMLINK_NOFOLLOW, STATX_TYPE, &found);
+  return result == 0 && S_ISDIR(found.stx_mode);
+}
+
+std::optional<struct statvfs> statisticsOf(const std::string& mountPath) {
+  struct statvfs statistics = {};
+  if (retryInterrupted([&] { return ::statvfs(mountPath.c_str(), &statistics); }) != 0) return {};
+  return statistics;
+}
+
+bool answersForItsLabel(const Mount& mount) {
+  return !isNetworkFileSystem(mount) && !isFuse(mount) && !isAutomount(mount);
+}
+
+std::string firstShown(std::initializer_list<std::string_view> labels) {
+  for (const std::string_view label : labels) {
+    if (std::string shown = printableLabel(label); !shown.empty()) return shown;
+  }
+  return {};
+}
+
+}  // namespace
+
+LinuxVolumes::LinuxVolumes(ReclaimableBytes reclaimableBytes, KernelPaths paths)
+    : reclaimableBytes_(std::move(reclaimableBytes)), paths_(std::move(paths)) {}
+
+std::vector<MountedVolume> LinuxVolumes::mountedVolumes() {
+  std::vector<Mount> mounts;
+  try {
+    mounts = volumesAmong(readMountTable(paths_.mountTable), isFolder);
+  } catch (const std::system_error&) {
+    return {};
+  }
+  std::vector<MountedVolume> volumes;
+  std::vector<Identity> identities;
+  std::vector<std::string> labels;
+  for (const Mount& mount : mounts) {
+    identities.push_back(identityOf(mount));
+    labels.push_back(describe(mount, volumes.emplace_back()));
+  }
+  giveNames(volumes, std::move(identities), labels);
+  return volumes;
+}
+
+std::optional<bool> LinuxVolumes::isReadOnly(const std::string& mountPath) {
+  const auto statistics = statisticsOf(mountPath);
+  if (!statistics) return {};
+  return (statistics->f_flag & ST_RDONLY) != 0;
+}
+
+std::optional<std::string> LinuxVolumes::mountPath(const std::string& name) {
+  const std::optional<Identity> identity = listedUnder(name);
+  const std::vector<Mount> table = readMountTable(paths_.mountTable);
+  if (!identity) return {};
+  const Mount* mount = MountTree(table).reachedAt(identity->path);
+  if (mount == nullptr || identityOf(*mount) != *identity) return {};
+  return identity->path;
+}
+
+LinuxVolumes::Identity LinuxVolumes::identityOf(const Mount& mount) const {
+  return {.device = mount.device,
+          .type = mount.type,
+          .source = mount.source,
+          .path = mount.path,
+          .diskSequence = diskSequence(blockDeviceOf(mount.device, mount.source), paths_.sysfs)};
+}
+
+std::optional<LinuxVolumes::Identity> LinuxVolumes::listedUnder(const std::string& name) {
+  const std::scoped_lock lock(mutex_);
+  const auto found = std::find_if(named_.begin(), named_.end(), [&](const Named& named) { return named.name == name; });
+  if (found == named_.end()) return {};
+  return found->identity;
+}
+
+std::string LinuxVolumes::describe(const Mount& mount, MountedVolume& volume) {
+  std::optional<std::string> label;
+  if (answersForItsLabel(mount)) label = labelFromFileSystem(mount.path);
+  const dev_t device = isNetworkFileSystem(mount) ? 0 : blockDeviceOf(mount.device, mount.source);
+  DeviceContent content;
+  if (device != 0 && (!label || isDescribedByDevice(mount))) content = deviceContents_.of(device, mount.source);
+
+  volume.mountPath = mount.path;
+  volume.formatDescription = formatDescription(mount, content);
+  volume.local = !isNetworkFileSystem(mount);
+  volume.removable = device != 0 && isOnRemovableDisk(device, paths_.sysfs);
+  if (!isAutomount(mount)) measure(mount, volume);
+  return firstShown({label.value_or(content.label), lastPartOf(mount.path), mount.path});
+}
+
+void LinuxVolumes::measure(const Mount& mount, MountedVolume& volume) const {
+  const auto statistics = statisticsOf(volume.mountPath);
+  if (!statistics) return;
+  const std::uint64_t freeBlocks = mayUseReservedBlocks(mount) ? statistics->f_bfree : statistics->f_bavail;
+  volume.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes_(volume.mountPath);
+  volume.totalBytes = statistics->f_blocks * statistics->f_frsize;
+  volume.readOnly = (statistics->f_flag & ST_RDONLY) != 0;
+}
+
+void LinuxVolumes::giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,
+                             const std::vector<std::string>& labels) {
+  const std::scoped_lock lock(mutex_);
+  std::vector<NameRequest> requests;
+  for (std::size_t i = 0; i < volumes.size(); ++i) {
+    const auto known =
+        std::find_if(named_.begin(), named_.end(), [&](const Named& named) { return named.identity == identities[i]; });
+    requests.push_back({labels[i], known == named_.end() ? std::string() : known->name});
+  }
+  named_.clear();
+  const std::vector<std::string> names = uniqueNames(requests);
+  for (std::size_t i = 0; i < volumes.size(); ++i) {
+    volumes[i].name = names[i];
+    named_.push_back({std::move(identities[i]), names[i]});
+  }
+}
+
+}  // namespace calvero

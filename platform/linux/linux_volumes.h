@@ -1,0 +1,72 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/linux/mount_table.h"
+#include "platform/linux/volume_label.h"
+#include "ports/disk_lookup.h"
+#include "ports/mounted_volumes.h"
+
+namespace calvero {
+
+/// Where the kernel tells about mounts and devices.
+struct KernelPaths {
+  std::string mountTable = "/proc/self/mountinfo";
+  std::string sysfs = "/sys";
+};
+
+/// Volumes and their names. A volume keeps its name from the first list that it is in until the first list without it,
+/// so that a name leads back to the volume that a person pointed at, whatever came and went since.
+class LinuxVolumes : public MountedVolumes, public DiskLookup {
+ public:
+  /// Space on a mounted volume, in bytes, that the next run takes back from what an interrupted one left there.
+  using ReclaimableBytes = std::function<std::uint64_t(const std::string& mountPath)>;
+
+  explicit LinuxVolumes(ReclaimableBytes reclaimableBytes, KernelPaths paths = {});
+
+  /// Empty when the mount table cannot be read. Automounters are not looked into: that would mount something.
+  std::vector<MountedVolume> mountedVolumes() override;
+  std::optional<bool> isReadOnly(const std::string& mountPath) override;
+
+  /// Reads the mount table and at most one file of the device tree; never waits for a disk or a network.
+  std::optional<std::string> mountPath(const std::string& name) override;
+
+ private:
+  /// What stays the same for as long as one file system is mounted at one place, and is different for the next one.
+  struct Identity {
+    dev_t device = 0;
+    std::string type;
+    std::string source;
+    std::string path;
+    std::string diskSequence;
+
+    bool operator==(const Identity&) const = default;
+  };
+  struct Named {
+    Identity identity;
+    std::string name;
+  };
+
+  [[nodiscard]] Identity identityOf(const Mount& mount) const;
+  [[nodiscard]] std::optional<Identity> listedUnder(const std::string& name);
+  /// Fills in all but the name, and gives the label that the volume would be named by.
+  std::string describe(const Mount& mount, MountedVolume& volume);
+  void measure(const Mount& mount, MountedVolume& volume) const;
+  void giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,
+                 const std::vector<std::string>& labels);
+
+  const ReclaimableBytes reclaimableBytes_;
+  const KernelPaths paths_;
+  DeviceContents deviceContents_;
+  std::mutex mutex_;  // guards what is named; not held while the system is asked
+  std::vector<Named> named_;
+};
+
+}  // namespace calvero

@@ -1,0 +1,100 @@
+#include "platform/linux/posix_files.h"
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <linux/magic.h>
+#include <sys/ioctl.h>
+#include <sys/statvfs.h>
+#include <sys/vfs.h>
+
+#include "platform/linux/filler_claim.h"
+#include "platform/linux/folder_contents.h"
+#include "platform/linux/posix_error.h"
+#include "platform/linux/posix_filler_directory.h"
+
+namespace calvero {
+
+namespace {
+
+/// With copy-on-write each pass would land on other blocks, zeros would be compressed away, and a full volume would
+/// refuse the second pass. New files inherit the attribute; it excludes those about compression, which the folder may
+/// have inherited itself. A Btrfs that refuses it is wiped all the same.
+void switchOffCopyOnWrite(const OpenFolder& directory) {
+  struct statfs properties = {};
+  if (::fstatfs(directory.get(), &properties) != 0 || properties.f_type != BTRFS_SUPER_MAGIC) return;
+  int flags = 0;
+  if (::ioctl(directory.get(), FS_IOC_GETFLAGS, &flags) != 0) return;
+  // In two steps: no one call may trade one attribute for the other.
+  flags &= ~(FS_COMPR_FL | FS_NOCOMP_FL);
+  ::ioctl(directory.get(), FS_IOC_SETFLAGS, &flags);
+  flags |= FS_NOCOW_FL;
+  ::ioctl(directory.get(), FS_IOC_SETFLAGS, &flags);
+}
+
+/// Closes the directory to others: somebody may have changed the mode of one that was left.
+Error makePrivate(const FillerPlace& place, const OpenFolder& directory) {
+  if (retryInterrupted([&] { return ::fchmod(directory.get(), S_IRWXU); }) == 0) return {};
+  Error error = posixError("fchmod", place.path(), errno);
+  const bool keepsNoModes = error.code == ErrorCode::notPermitted || error.code == ErrorCode::other;
+  return keepsNoModes && place.showsNoOwners() ? Error{} : error;
+}
+
+Error prepare(const FillerPlace& place, const OpenFolder& directory) {
+  Error error = makePrivate(place, directory);
+  if (error.failed()) return error;
+  error = emptyFolder(directory, place.path());
+  if (!error.failed()) switchOffCopyOnWrite(directory);
+  return error;
+}
+
+}  // namespace
+
+bool PosixFiles::exists(const std::string& path) {
+  struct stat ignored = {};
+  return retryInterrupted([&] { return ::stat(path.c_str(), &ignored); }) == 0;
+}
+
+Error PosixFiles::checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
+  Error error;
+  const auto place = FillerPlace::open(volumePath, directoryPath, error);
+  if (!place) return error;
+  const OpenFolder directory = openUnclaimed(*place, error);
+  if (directory.isOpen()) {
+    // Its mode does not matter: taking it over sets it.
+    struct statvfs properties = {};
+    if (::fstatvfs(directory.get(), &properties) != 0) return posixError("fstatvfs", directoryPath, errno);
+    return (properties.f_flag & ST_RDONLY) != 0 ? posixError("fstatvfs", directoryPath, EROFS) : Error{};
+  }
+  return error.code == ErrorCode::notFound ? place->checkWritable() : error;
+}
+
+std::unique_ptr<FillerDirectory> PosixFiles::createFillerDirectory(const std::string& volumePath,
+                                                                   const std::string& directoryPath, Error& error) {
+  auto place = FillerPlace::open(volumePath, directoryPath, error);
+  if (!place) return nullptr;
+  OpenFolder directory = claimDirectory(*place, IfAbsent::make, error);
+  if (!directory.isOpen()) return nullptr;
+  error = prepare(*place, directory);
+  if (error.failed()) return nullptr;
+  return std::make_unique<PosixFillerDirectory>(std::move(*place), std::move(directory));
+}
+
+Error PosixFiles::removeFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
+  Error error;
+  auto place = FillerPlace::open(volumePath, directoryPath, error);
+  if (!place) return error;
+  OpenFolder directory = claimDirectory(*place, IfAbsent::report, error);
+  if (!directory.isOpen()) return error;
+  return PosixFillerDirectory(std::move(*place), std::move(directory)).remove();
+}
+
+std::uint64_t PosixFiles::bytesInLeftDirectory(const std::string& volumePath, const std::string& directoryPath) {
+  const auto found = identityAt(AT_FDCWD, directoryPath.c_str());
+  if (!found || !found->isFolder()) return 0;
+  Error error;
+  const auto place = FillerPlace::open(volumePath, directoryPath, error);
+  const OpenFolder directory = place ? openUnclaimed(*place, error) : OpenFolder{};
+  return directory.isOpen() ? allocatedBytesOfFiles(directory) : 0;
+}
+
+}  // namespace calvero

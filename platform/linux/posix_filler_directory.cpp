@@ -1,0 +1,133 @@
+#include "platform/linux/posix_filler_directory.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "platform/linux/folder_contents.h"
+#include "platform/linux/posix_error.h"
+#include "platform/linux/posix_filler_file.h"
+
+namespace calvero {
+
+namespace {
+
+/// Each attempt ends at the latest when somebody has taken the freed name again.
+constexpr int kCreateAttempts = 8;
+
+/// A worker that is in the middle of one call when the directory is removed may still add one entry.
+constexpr int kRemoveAttempts = 16;
+
+const char* lastPart(const std::string& path) {
+  return path.c_str() + (path.rfind('/') + 1);
+}
+
+int openIn(const OpenFolder& folder, const char* name, int flags) {
+  constexpr mode_t kOwnerOnly = S_IRUSR | S_IWUSR;
+  return retryInterrupted([&] { return ::openat(folder.get(), name, flags | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly); });
+}
+
+int unlinkIn(const OpenFolder& folder, const char* name) {
+  return retryInterrupted([&] { return ::unlinkat(folder.get(), name, 0); });
+}
+
+const char* whyNoFillerFile(const FileIdentity& found, const FileIdentity& directory) {
+  if (!found.isPlainFile()) return "it is not a plain file";
+  if (!found.isOnSameMount(directory)) return "it is a mount point";
+  if (found.links > 1) return "it has a second name";
+  if (found.sizeBytes != 0) return "it is not empty";
+  return nullptr;
+}
+
+}  // namespace
+
+PosixFillerDirectory::PosixFillerDirectory(FillerPlace place, OpenFolder directory)
+    : place_(std::move(place)), directory_(std::move(directory)) {}
+
+Error PosixFillerDirectory::createEmptyFile(const std::string& path) {
+  const char* name = lastPart(path);
+  int failure = EEXIST;
+  for (int attempt = 0; attempt < kCreateAttempts; ++attempt) {
+    if (closed_) return {ErrorCode::closed, "openat", path, "the run is over"};
+    const int descriptor = openIn(directory_, name, O_CREAT | O_EXCL | O_WRONLY);
+    if (descriptor >= 0) {
+      ::close(descriptor);
+      return {};
+    }
+    failure = errno;
+    if (failure != EEXIST) break;
+    if (unlinkIn(directory_, name) != 0 && errno != ENOENT) {
+      if (errno != EISDIR) failure = errno;
+      break;
+    }
+  }
+  if (closed_) return {ErrorCode::closed, "openat", path, "the run is over"};
+  return posixError("openat", path, failure);
+}
+
+bool PosixFillerDirectory::exists(const std::string& path) {
+  return identityAt(directory_.get(), lastPart(path)).has_value();
+}
+
+Error PosixFillerDirectory::readAttributes(const std::string& path) {
+  return identityAt(directory_.get(), lastPart(path)) ? Error{} : posixError("statx", path, errno);
+}
+
+std::unique_ptr<FillerFile> PosixFillerDirectory::openForWriting(const std::string& path, Error& error) {
+  const char* name = lastPart(path);
+  // Looked at twice: the first look keeps devices and FIFOs from being opened, the second one binds.
+  auto found = identityAt(directory_.get(), name);
+  const char* reason = found ? whyNoFillerFile(*found, directory_.identity) : nullptr;
+  Descriptor descriptor;
+  if (found && reason == nullptr) {
+    descriptor = Descriptor(openIn(directory_, name, O_WRONLY | O_NONBLOCK));
+    found = descriptor.isOpen() ? identityOf(descriptor.get()) : std::nullopt;
+    reason = found ? whyNoFillerFile(*found, directory_.identity) : nullptr;
+  }
+  if (found && reason == nullptr) return std::make_unique<PosixFillerFile>(std::move(descriptor));
+  error = found ? Error{ErrorCode::notOurs, "openat", path, reason} : posixError("openat", path, errno);
+  return nullptr;
+}
+
+Error PosixFillerDirectory::removeItem(const std::string& path) {
+  const char* name = lastPart(path);
+  const auto found = identityAt(directory_.get(), name);
+  if (!found) return posixError("statx", path, errno);
+
+  // A second descriptor, for reading, and not the one that wrote: closing the latter makes XFS give back what it
+  // reserved behind the end of the file, while any open descriptor keeps the file's own blocks. O_PATH would not do:
+  // a FUSE file system keeps a file without a name only for those who really opened it.
+  const bool takesSpace = found->isPlainFile() && (found->allocatedBytes != 0 || found->sizeBytes != 0);
+  Descriptor file;
+  if (takesSpace && !closed_) file = Descriptor(openIn(directory_, name, O_RDONLY | O_NONBLOCK));
+
+  if (unlinkIn(directory_, name) != 0) return posixError("unlinkat", path, errno);
+  if (file.isOpen()) {
+    held_.keep(std::move(file));
+  } else if (takesSpace && !closed_) {
+    bytesNotKept_ += found->allocatedBytes;
+  }
+  return {};
+}
+
+Error PosixFillerDirectory::remove() {
+  closed_ = true;
+  held_.releaseForGood();
+  Error error;
+  for (int attempt = 0; attempt < kRemoveAttempts; ++attempt) {
+    error = emptyFolder(directory_, place_.path());
+    if (error.failed()) return error;
+    error = removeName();
+    if (error.code != ErrorCode::exists) return error;
+  }
+  return error;
+}
+
+Error PosixFillerDirectory::removeName() {
+  const std::lock_guard lock(nameMutex_);
+  if (nameRemoved_) return posixError("unlinkat", place_.path(), ENOENT);
+  Error error = place_.removeDirectory(directory_);
+  nameRemoved_ = !error.failed();
+  return error;
+}
+
+}  // namespace calvero

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <atomic>
+#include <mutex>
+
+#include "platform/linux/filler_place.h"
+#include "platform/linux/held_files.h"
+#include "platform/linux/open_folder.h"
+#include "ports/files.h"
+
+namespace calvero {
+
+class PosixFillerDirectory : public FillerDirectory {
+ public:
+  /// `directory` is the locked and empty filler directory of `place`.
+  PosixFillerDirectory(FillerPlace place, OpenFolder directory);
+
+  Error createEmptyFile(const std::string& path) override;
+  bool exists(const std::string& path) override;
+  Error readAttributes(const std::string& path) override;
+  std::unique_ptr<FillerFile> openForWriting(const std::string& path, Error& error) override;
+  Error removeItem(const std::string& path) override;
+  std::uint64_t bytesNotKept() const override { return bytesNotKept_; }
+  void releaseSpace() override { held_.release(); }
+  Error remove() override;
+
+ private:
+  Error removeName();
+
+  FillerPlace place_;
+  OpenFolder directory_;  // closing it drops the lock
+  std::atomic<bool> closed_{false};
+  std::atomic<std::uint64_t> bytesNotKept_{0};
+  std::mutex nameMutex_;  // guards nameRemoved_, and that nobody removes the name of the next run's directory
+  bool nameRemoved_ = false;
+  HeldFiles held_;
+};
+
+}  // namespace calvero

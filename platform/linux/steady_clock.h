@@ -1,0 +1,14 @@
+#pragma once
+
+#include "ports/clock.h"
+
+namespace calvero {
+
+class SteadyClock : public Clock {
+ public:
+  Duration now() override;
+  /// Sleeps the whole time even if signals arrive.
+  void sleep(Duration duration) override;
+};
+
+}  // namespace calvero

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/linux/detached_threads.h"
+#include "platform/linux/kernel_random.h"
+#include "platform/linux/linux_volumes.h"
+#include "platform/linux/posix_files.h"
+#include "platform/linux/steady_clock.h"
+#include "platform/linux/syslog_log.h"
+#include "platform/terminal/asio_event_loop.h"
+#include "platform/terminal/line_input.h"
+#include "platform/terminal/output.h"
+#include "platform/terminal/terminal_alerts.h"
+#include "platform/terminal/terminal_controls.h"
+#include "platform/terminal/terminal_services.h"
+#include "ports/ports.h"
+
+namespace calvero {
+
+class AppDelegate;
+
+/// Everything that a command gives the controller. Where the dialogue goes and who answers it is the command's choice.
+class CommandPorts {
+ public:
+  CommandPorts(Output dialogueOutput, Answering answering);
+  CommandPorts(const CommandPorts&) = delete;
+  CommandPorts& operator=(const CommandPorts&) = delete;
+
+  Ports ports();
+
+  // Both are called on the event loop thread, and are set before any other thread is started.
+  /// What the log wants whoever ordered the run to know.
+  std::function<void(const std::string&)> onNotice;
+  /// A thread has ended by an exception: what it was doing will never be done.
+  std::function<void(const std::string&)> onThreadFailure;
+
+  const Output dialogue;
+  AsioEventLoop loop;
+  LineInput input;
+  TerminalAlerts alerts;
+  TerminalControls controls;
+  SteadyClock clock;
+  DetachedThreads threads{[this](const std::string& text) { passOn(onThreadFailure, text); }};
+
+ private:
+  using Receiver = std::function<void(const std::string&)>;
+
+  /// Any thread.
+  void passOn(const Receiver& receiver, const std::string& text);
+
+  PosixFiles files_;
+  LinuxVolumes volumes_;
+  SyslogLog log_;
+  KernelRandom random_;
+  NoTags tagStore_;
+  NoSystemNotifications systemNotifications_;
+  EnglishTexts texts_;
+  PrintedPopUp popUp_;
+};
+
+/// The volumes that the controller offers, in its order, as the system described them.
+std::vector<MountedVolume> offeredVolumes(const AppDelegate& app);
+
+/// A line on standard error under the program's name.
+void printError(const std::string& text);
+
+}  // namespace calvero

@@ -1,0 +1,171 @@
+#include <unistd.h>
+
+#include <cstdlib>
+#include <memory>
+
+#include "app/app_delegate.h"
+#include "methods/method_catalogue.h"
+#include "platform/linux/process_limits.h"
+#include "platform/terminal/commands/command_list.h"
+#include "platform/terminal/commands/command_ports.h"
+#include "platform/terminal/commands/methods_command.h"
+#include "platform/terminal/commands/wipe_command_report.h"
+#include "platform/terminal/commands/wipe_command_session.h"
+#include "platform/terminal/commands/wipe_wizard.h"
+#include "platform/terminal/text.h"
+#include "platform/terminal/volume_choice.h"
+
+namespace calvero {
+namespace {
+
+constexpr std::chrono::seconds kTimeForThreadsToEnd{2};
+
+/// Where a person reads the questions: never where another program reads the result.
+Output dialogueOutput(const WipeRequest& request, bool isPersonThere) {
+  const Output output(STDOUT_FILENO);
+  const bool asks = isPersonThere && (!request.yes || !request.volume);
+  if (asks) return request.json || !output.isTerminal() ? Output(STDERR_FILENO) : output;
+  return request.json || request.quiet ? Output::nowhere() : output;
+}
+
+class WipeCommand {
+ public:
+  WipeCommand(const WipeRequest& request, std::optional<std::int32_t> method, bool isPersonThere)
+      : request_(request),
+        isPersonThere_(isPersonThere),
+        method_(method),
+        ports_(dialogueOutput(request, isPersonThere), request.yes ? Answering::defaultButtons : Answering::person),
+        app_(ports_.ports()) {
+    report_.volume = request.volume.value_or("");
+  }
+
+  ExitCode run() {
+    app_.applicationDidFinishLaunching();
+    const Output progress(request_.json || request_.quiet ? Output::nowhere() : Output(STDOUT_FILENO));
+    const auto style =
+        request_.json || request_.quiet ? ProgressStyle::none : progressStyleOf(progress, std::getenv("TERM"));
+    WipeCommandSession session(ports_, app_, progress, style);
+    if (!choose() || !enterMethodPage()) return closed();
+    announce();
+    session.run();
+    const bool threadsEnded = ports_.threads.waitForAll(kTimeForThreadsToEnd);
+    conclude(session, threadsEnded);
+    // A thread that hangs in the kernel would find everything destroyed under it.
+    if (!threadsEnded) std::_Exit(static_cast<int>(report_.exitCode));
+    return report_.exitCode;
+  }
+
+ private:
+  /// Volume and method, from the command line or by asking; false when there is none.
+  bool choose() {
+    const auto volumes = offeredVolumes(app_);
+    std::optional<std::size_t> row;
+    if (request_.volume || volumes.empty()) {
+      const VolumeChoice choice = chooseVolume(report_.volume, volumes);
+      if (!choice.index) return refuse(choice.refusal);
+      row = choice.index;
+    } else if (!(row = askForVolume(ports_.dialogue, ports_.input, volumes))) {
+      return cancel();
+    }
+    report_.volume = volumes[*row].name;
+    report_.mountPath = volumes[*row].mountPath;
+    report_.freeBytes = volumes[*row].availableBytes;
+    app_.setCurrentSelection(*row);
+    const Error error = app_.checkSelectedVolume();
+    if (error.failed()) return refuse(refusalLine(report_, error));
+    if (!method_ && isPersonThere_ && !request_.yes) {
+      method_ = askForMethod(ports_.dialogue, ports_.input);
+      if (!method_) return cancel();
+    }
+    return true;
+  }
+
+  bool enterMethodPage() {
+    app_.next();
+    if (ports_.controls.page() != Page::method) return refuse(refusalLine(report_, {ErrorCode::readOnly, "", "", ""}));
+    if (method_) app_.chooseMethod(*method_);
+    report_.method = app_.methodChoice().eraseMethodSelected;
+    report_.passes = app_.methodChoice().numPassSelected;
+    return true;
+  }
+
+  void announce() {
+    const auto& method = kMethodCatalogue.at(static_cast<std::size_t>(*report_.method));
+    ports_.dialogue.line("Free space of " + printable(report_.volume) + " (" + printable(*report_.mountPath) +
+                         "): " + AppDelegate::getFormattedStringForSize(report_.freeBytes) + ". Method " +
+                         std::to_string(method.number + 1) + ": " + withSingleBlanks(method.labelKey) + ", writes " +
+                         shortened(writtenSequence(method.number)) + ".");
+  }
+
+  void conclude(const WipeCommandSession& session, bool threadsEnded) {
+    const RunPtr& run = session.theRun();
+    if (run && threadsEnded && run->outcome == RunOutcome::failed && run->faults() == 0) {
+      // The controller leaves the directory of a run that it gave up; nobody else would remove it.
+      app_.deleteFiles(*run);
+    }
+    addRun(report_, run.get());
+    report_.seconds = session.seconds();
+    const bool isMounted = report_.exitCode != ExitCode::failed || app_.getVolumePath(report_.volume).has_value();
+    const std::string failure = failureLine(report_, isMounted);
+    if (!failure.empty()) printError(failure);
+    if (report_.exitCode == ExitCode::cancelled) printError(closingLine(report_));
+    if (report_.outcome == RunOutcome::finished && !request_.json) Output(STDOUT_FILENO).line(closingLine(report_));
+    printJson();
+  }
+
+  bool refuse(const std::string& line) {
+    report_.exitCode = ExitCode::refused;
+    printError(line);
+    return false;
+  }
+
+  bool cancel() {
+    report_.exitCode = ExitCode::cancelled;
+    printError(closingLine(report_));
+    return false;
+  }
+
+  ExitCode closed() {
+    printJson();
+    return report_.exitCode;
+  }
+
+  void printJson() const {
+    if (request_.json) Output(STDOUT_FILENO).line(reportJson(report_));
+  }
+
+  const WipeRequest& request_;
+  const bool isPersonThere_;
+  std::optional<std::int32_t> method_;
+  WipeReport report_;
+  CommandPorts ports_;
+  AppDelegate app_;
+};
+
+ExitCode wrongUsage(const std::string& line) {
+  printError(line);
+  return ExitCode::wrongUsage;
+}
+
+}  // namespace
+
+ExitCode wipeCommand(const WipeRequest& request) {
+  std::optional<std::int32_t> method;
+  if (request.method) {
+    method = methodNamed(*request.method);
+    if (!method) {
+      return wrongUsage("There is no method \"" + printable(*request.method) + "\"; choose one of " + validMethods());
+    }
+  }
+  const bool isPersonThere = ::isatty(STDIN_FILENO) == 1;
+  if (!isPersonThere && !request.volume) {
+    return wrongUsage("Name the volume to erase; calvero-cli volumes lists them");
+  }
+  if (!isPersonThere && !request.yes) {
+    return wrongUsage("Nobody can answer the questions without a terminal; add --yes to erase without being asked");
+  }
+  raiseOpenFileLimit();
+  return WipeCommand(request, method, isPersonThere).run();
+}
+
+}  // namespace calvero

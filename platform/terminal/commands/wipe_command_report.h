@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/terminal/exit_code.h"
+#include "ports/error.h"
+#include "wipe/wipe_run.h"
+
+namespace calvero {
+
+/// What a wipe came to, for the last words on the terminal and for other programs.
+struct WipeReport {
+  std::string volume;  ///< as it was typed, where no volume was found for it
+  std::optional<std::string> mountPath;
+  std::optional<std::int32_t> method;  ///< 0 to 8
+  std::int32_t passes = 0;
+  std::uint64_t freeBytes = 0;  ///< as listed before the run
+  std::uint64_t bytesCovered = 0;
+  std::uint64_t bytesWritten = 0;
+  double seconds = 0;
+  std::uint64_t faults = 0;
+  Error firstFault;
+  RunOutcome outcome = RunOutcome::none;
+  ExitCode exitCode = ExitCode::refused;
+};
+
+/// A run without an outcome never started: it was declined. Faults spoil a finished run.
+ExitCode exitCodeOf(RunOutcome outcome, std::uint64_t faults);
+
+/// Takes the run's figures, outcome and exit code; a null run never started.
+void addRun(WipeReport& report, const WipeRun* run);
+
+/// One JSON object.
+std::string reportJson(const WipeReport& report);
+
+/// "Finished: ...", "Cancelled ...": the last line of a run that did not fail.
+std::string closingLine(const WipeReport& report);
+
+/// What went wrong and what it means for the deleted data; empty for a run without a flaw. `isMounted`: whether the
+/// volume is still there.
+std::string failureLine(const WipeReport& report, bool isMounted);
+
+/// Why the volume may not be wiped, and what to do about it.
+std::string refusalLine(const WipeReport& report, const Error& error);
+
+}  // namespace calvero

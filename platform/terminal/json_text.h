@@ -1,0 +1,16 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string>
+
+namespace calvero {
+
+/// The text of a JSON value; bytes of a path that are not UTF-8 become U+FFFD.
+inline std::string jsonText(const nlohmann::ordered_json& value) {
+  constexpr int kIndent = 2;
+  constexpr char kIndentWith = ' ';
+  constexpr bool kEscapeNonAscii = false;
+  return value.dump(kIndent, kIndentWith, kEscapeNonAscii, nlohmann::ordered_json::error_handler_t::replace);
+}
+
+}  // namespace calvero

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <string>
+
+namespace calvero {
+
+/// What went wrong at the operating system, in the few kinds that the controller tells apart.
+enum class ErrorCode {
+  none,
+  notFound,      ///< no such file, directory or volume
+  exists,        ///< the name is taken
+  notPermitted,  ///< the process may not do this
+  readOnly,      ///< the file system is read-only, or has just turned so
+  full,          ///< no space left, or the user's quota is used up: the normal end of a fill
+  busy,          ///< another run holds the filler directory
+  notOurs,       ///< the filler directory's name leads to something that a run did not make
+  gone,          ///< the medium fails or has been pulled
+  noHandles,     ///< the limit of open files is reached
+  closed,        ///< the run's filler directory has been given back; nothing more is created in it
+  other,
+};
+
+/// What the code means, in words for the log and for a person.
+constexpr const char* describe(ErrorCode code) {
+  switch (code) {
+    case ErrorCode::none:
+      return "no error";
+    case ErrorCode::notFound:
+      return "not found";
+    case ErrorCode::exists:
+      return "the name is taken";
+    case ErrorCode::notPermitted:
+      return "not permitted";
+    case ErrorCode::readOnly:
+      return "the file system is read-only";
+    case ErrorCode::full:
+      return "no space left";
+    case ErrorCode::busy:
+      return "another run is wiping the volume";
+    case ErrorCode::notOurs:
+      return "not made by a run";
+    case ErrorCode::gone:
+      return "the medium fails or has been pulled";
+    case ErrorCode::noHandles:
+      return "too many open files";
+    case ErrorCode::closed:
+      return "the run has ended";
+    case ErrorCode::other:
+      break;
+  }
+  return "input or output failed";
+}
+
+/// An adapter's report: what was tried, on what, and how it failed. Never thrown; never shown as it is, only the
+/// controller decides what a person reads. Default-constructed it means success and owns no memory.
+struct Error {
+  ErrorCode code = ErrorCode::none;
+  std::string operation;  ///< the system call, e.g. "openat"
+  std::string path;
+  std::string detail;  ///< the system's own words, e.g. "Read-only file system"
+
+  [[nodiscard]] bool failed() const { return code != ErrorCode::none; }
+  /// "openat /mnt/a: Read-only file system", for the log.
+  [[nodiscard]] std::string text() const { return operation + " " + path + ": " + detail; }
+};
+
+}  // namespace calvero

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "ports/error.h"
+
+namespace calvero {
+
+/// Result of one positioned write.
+struct WriteResult {
+  std::int64_t bytes = 0;  ///< bytes written, or -1
+  ErrorCode error = ErrorCode::none;
+};
+
+/// One filler file, open for writing. Used by one thread; destroying it closes it.
+class FillerFile {
+ public:
+  FillerFile() = default;
+  FillerFile(const FillerFile&) = delete;
+  FillerFile& operator=(const FillerFile&) = delete;
+  virtual ~FillerFile() = default;
+
+  /// Writes `bytes` bytes of `data` at `offset` (bytes from the start of the file). Blocks. Interrupted calls are
+  /// retried; a short write is returned as it is; -1 on failure, a null `data` included.
+  virtual WriteResult pwrite(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset) = 0;
+
+  /// Flushes the file to the medium and waits for it. A failure is reported once and never retried: the kernel has
+  /// dropped the data by then.
+  virtual ErrorCode fsync() = 0;
+};
+
+/// The filler directory of one run, locked against every other run for as long as this object lives.
+///
+/// Every path given to it is a full path inside the directory; only its last part is used, relative to the directory
+/// that was opened at the start, so that renaming or replacing the directory from outside leads nowhere else.
+/// All calls may be made from any thread at the same time, since a cancel removes the directory while the worker is
+/// still writing. After `remove` has begun nothing is created or kept any more.
+class FillerDirectory {
+ public:
+  FillerDirectory() = default;
+  FillerDirectory(const FillerDirectory&) = delete;
+  FillerDirectory& operator=(const FillerDirectory&) = delete;
+  /// Releases the kept space and the lock; removes nothing.
+  virtual ~FillerDirectory() = default;
+
+  /// Creates an empty regular file, mode 0600. A file, link, FIFO or socket of that name is unlinked first, never
+  /// opened or followed; a folder of that name is left and reported (`exists`).
+  virtual Error createEmptyFile(const std::string& path) = 0;
+
+  /// Whether a directory entry of that name exists. Links are not followed.
+  virtual bool exists(const std::string& path) = 0;
+
+  /// Reads the entry's attributes, as is done before each file is written; nothing looks at them. Links are not followed.
+  virtual Error readAttributes(const std::string& path) = 0;
+
+  /// Opens a filler file made by `createEmptyFile`. Null with `error` filled when it cannot be opened or is not what
+  /// was created: not a regular file, not empty, or known by a second name.
+  virtual std::unique_ptr<FillerFile> openForWriting(const std::string& path, Error& error) = 0;
+
+  /// Removes the file's name, and keeps its space taken until `releaseSpace`: a file system hands the blocks of a
+  /// deleted file to the next one, which would then overwrite the same blocks again and leave the others as they
+  /// were. Where the space cannot be kept the name is removed all the same and `bytesNotKept` grows.
+  virtual Error removeItem(const std::string& path) = 0;
+
+  /// Bytes of removed files whose space could not be kept (limit of open files), so far.
+  virtual std::uint64_t bytesNotKept() const = 0;
+
+  /// Gives back the space of every removed file. Blocks while the file system frees it.
+  virtual void releaseSpace() = 0;
+
+  /// Removes the directory with everything in it. Never follows a link, never leaves the volume. A second call, or
+  /// one while another thread is in it, does no harm. `notFound` when the directory is already gone.
+  virtual Error remove() = 0;
+};
+
+/// The file manager, as far as a run needs it. Any thread.
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  /// Whether `path` exists. Used for mount paths.
+  virtual bool exists(const std::string& path) = 0;
+
+  /// Whether `createFillerDirectory` could succeed now. Creates and changes nothing. Codes: `notPermitted`,
+  /// `readOnly`, `busy`, `notOurs`, `notFound`, `gone`.
+  virtual Error checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) = 0;
+
+  /// Makes the filler directory, or takes over the one an interrupted run left, and locks it. It is taken over only if
+  /// it is a real directory on the volume itself and owned by the running user; what the interrupted run left in it is
+  /// removed. Null with `error` filled otherwise, and then nothing in it was opened, written or removed.
+  virtual std::unique_ptr<FillerDirectory> createFillerDirectory(const std::string& volumePath,
+                                                                 const std::string& directoryPath, Error& error) = 0;
+
+  /// Removes a filler directory that an interrupted run left, under the same conditions. Creates nothing.
+  /// `notFound` when there is none.
+  virtual Error removeFillerDirectory(const std::string& volumePath, const std::string& directoryPath) = 0;
+};
+
+}  // namespace calvero

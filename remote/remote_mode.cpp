@@ -1,0 +1,56 @@
+#include <utility>
+
+#include "app/app_delegate.h"
+#include "ports/controls.h"
+#include "ports/event_loop.h"
+#include "ports/pop_up_window.h"
+#include "ports/tag_store.h"
+
+namespace calvero {
+
+std::optional<std::string> Authentication::GetValueForTag(const std::string& tag) {
+  return store_->value(tag);
+}
+
+void Authentication::SetValueForTag(const std::string& tag, const std::string& value) {
+  store_->setValue(tag, value);
+}
+
+void AppDelegate::readRemoteOrder() {
+  const auto online = authentication_.GetValueForTag(kTagOnline);
+  order_.cloudInitiation = 0;
+  if (online != "1") return;
+  order_.cloudInitiation = 1;
+  order_.CDriveName = authentication_.GetValueForTag(kTagDrive).value_or("");
+  order_.algo = authentication_.GetValueForTag(kTagAlgo).value_or("");
+}
+
+void AppDelegate::myCloud() {
+  shell_.display = 0;
+  ports_.controls.orderOut(Control::window);
+  ports_.controls.leaveTaskBar();
+  proceed();
+}
+
+void AppDelegate::checkForTermination() {
+  ports_.eventLoop.stopTimer(std::exchange(order_.cvrTimer, kNoTimer));
+  if (authentication_.GetValueForTag(kTagCancel) == "1") {
+    ports_.eventLoop.stopTimer(std::exchange(order_.cvrTimer, kNoTimer));
+    authentication_.SetValueForTag(kTagCancel, "0");
+    cancelProcess();
+  }
+  // The poll never stops by itself, not even after a cancel; it ends with the application.
+  order_.cvrTimer =
+      ports_.eventLoop.startTimer(kCancelPollInterval, TimerKind::repeating, [this] { checkForTermination(); });
+}
+
+void AppDelegate::cancelProcess() {
+  order_.cloudTerm = 1;
+  cancelWipe();
+}
+
+void AppDelegate::popUp(const Colour& colour, const std::string& text) {
+  ports_.popUpWindow.show(colour, text);
+}
+
+}  // namespace calvero

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "ports/threads.h"
+#include "tests/fakes/journal.h"
+
+namespace calvero::testing {
+
+/// Keeps the bodies of detached threads for the test to run by hand; or really runs them, and joins them at its end.
+class FakeThreads : public Threads {
+ public:
+  enum class Mode { byHand, real };
+
+  explicit FakeThreads(Journal& journal) : journal_(journal) {}
+  ~FakeThreads() override { joinAll(); }
+
+  void setMode(Mode mode) { mode_ = mode; }
+
+  void detach(const std::string& name, std::function<void()> body) override {
+    journal_.add("detach");
+    const std::scoped_lock lock(mutex_);
+    names_.push_back(name);
+    if (mode_ == Mode::real) {
+      running_.emplace_back(std::move(body));
+    } else {
+      bodies_.push_back(std::move(body));
+    }
+  }
+
+  /// Runs the body of the `nth` thread (from 0, since the start) on the caller's thread, once.
+  void run(std::size_t nth) {
+    std::function<void()> body;
+    {
+      const std::scoped_lock lock(mutex_);
+      body.swap(bodies_.at(nth));
+    }
+    body();
+  }
+
+  [[nodiscard]] std::size_t started() const {
+    const std::scoped_lock lock(mutex_);
+    return names_.size();
+  }
+  [[nodiscard]] std::vector<std::string> names() const {
+    const std::scoped_lock lock(mutex_);
+    return names_;
+  }
+
+  void joinAll() {
+    // A thread may start another one before it ends.
+    while (true) {
+      std::vector<std::thread> ending;
+      {
+        const std::scoped_lock lock(mutex_);
+        ending.swap(running_);
+      }
+      if (ending.empty()) return;
+      for (std::thread& thread : ending) thread.join();
+    }
+  }
+
+ private:
+  Journal& journal_;
+  Mode mode_ = Mode::byHand;
+  mutable std::mutex mutex_;  // guards the members below
+  std::vector<std::string> names_;
+  std::vector<std::function<void()>> bodies_;
+  std::vector<std::thread> running_;
+};
+
+}  // namespace calvero::testing

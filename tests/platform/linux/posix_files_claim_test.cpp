@@ -1,0 +1,222 @@
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <functional>
+#include <optional>
+
+#include "tests/platform/linux/posix_files_test_volume.h"
+
+namespace calvero::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FillerDirectoryClaim : public FillerVolume {
+ protected:
+  void makeLeftDirectory(mode_t mode = S_IRWXU) const {
+    fs::create_directory(directory_);
+    ASSERT_EQ(::chmod(directory_.c_str(), mode), 0);
+  }
+  /// The answer of `condition` in a process of another user; nothing where there can be no such process.
+  std::optional<bool> asAnotherUser(const std::function<bool()>& condition) const {
+    EXPECT_EQ(::chmod(top_.c_str(), 0755), 0);
+    constexpr int kNotPermitted = 2;
+    const pid_t child = ::fork();
+    if (child == 0) {
+      if (::setuid(kAnotherUser) != 0) ::_exit(kNotPermitted);
+      ::_exit(condition() ? 0 : 1);
+    }
+    int status = -1;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == kNotPermitted) return std::nullopt;
+    return WEXITSTATUS(status) == 0;
+  }
+  [[nodiscard]] mode_t modeOf(const std::string& path) const {
+    struct stat found = {};
+    EXPECT_EQ(::stat(path.c_str(), &found), 0);
+    return found.st_mode & 07777;
+  }
+};
+
+TEST_F(FillerDirectoryClaim, MakesADirectoryThatOnlyItsOwnerMayEnter) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr) << error_.text();
+  EXPECT_EQ(modeOf(directory_), 0700U);
+}
+
+TEST_F(FillerDirectoryClaim, ClosesALeftDirectoryToOthers) {
+  makeLeftDirectory(0777);
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr) << error_.text();
+  EXPECT_EQ(modeOf(directory_), 0700U);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesASymbolicLinkAndLeavesWhatItLeadsTo) {
+  const std::string target = volume_ + "/target";
+  fs::create_directory(target);
+  writeFile(target + "/.temp0", kPreciousText);
+  fs::create_symlink(target, directory_);
+  expectRefused(ErrorCode::notOurs, "it is a symbolic link");
+  EXPECT_TRUE(fs::is_symlink(directory_));
+  EXPECT_EQ(readFile(target + "/.temp0"), kPreciousText);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesAPlainFile) {
+  writeFile(directory_, kPreciousText);
+  expectRefused(ErrorCode::notOurs, "it is not a folder");
+  EXPECT_EQ(readFile(directory_), kPreciousText);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesAFifoWithoutWaitingForItsReader) {
+  ASSERT_EQ(::mkfifo(directory_.c_str(), 0600), 0);
+  expectRefused(ErrorCode::notOurs, "it is not a folder");
+  EXPECT_TRUE(fs::is_fifo(directory_));
+}
+
+TEST_F(FillerDirectoryClaim, RefusesAnotherUsersDirectory) {
+  makeLeftDirectory(0777);
+  writeFile(pathOf(".temp0"), kPreciousText);
+  if (::chown(directory_.c_str(), kAnotherUser, static_cast<gid_t>(-1)) != 0) {
+    GTEST_SKIP() << "needs the right to give a directory to another user";
+  }
+  expectRefused(ErrorCode::notOurs, "it belongs to another user");
+  EXPECT_EQ(readFile(pathOf(".temp0")), kPreciousText);
+  EXPECT_EQ(modeOf(directory_), 0777U);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesAnotherUsersDirectoryThatItCannotOpen) {
+  makeLeftDirectory(0);
+  const auto refused = asAnotherUser([this] {
+    return check().code == ErrorCode::notOurs && create() == nullptr && error_.code == ErrorCode::notOurs;
+  });
+  if (!refused) GTEST_SKIP() << "needs the right to become another user";
+  EXPECT_TRUE(*refused);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesAMountPointEvenOfTheSameFileSystem) {
+  const std::string target = volume_ + "/target";
+  fs::create_directory(target);
+  writeFile(target + "/.temp0", kPreciousText);
+  makeLeftDirectory();
+  const ScopedMount bind(target, directory_, "", MS_BIND);
+  if (!bind.done()) GTEST_SKIP() << "needs the right to mount";
+  expectRefused(ErrorCode::notOurs, "it is a mount point");
+  EXPECT_EQ(readFile(target + "/.temp0"), kPreciousText);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesAnotherFileSystemMountedThere) {
+  makeLeftDirectory();
+  const ScopedMount other("none", directory_, "tmpfs", 0, "size=1m,mode=0700");
+  if (!other.done()) GTEST_SKIP() << "needs the right to mount";
+  writeFile(pathOf(".temp0"), kPreciousText);
+  expectRefused(ErrorCode::notOurs, "it is a mount point");
+  EXPECT_EQ(readFile(pathOf(".temp0")), kPreciousText);
+}
+
+TEST_F(FillerDirectoryClaim, AVolumeThatIsABindMountItselfIsTaken) {
+  const std::string second = top_ + "/second";
+  fs::create_directory(second);
+  const ScopedMount bind(volume_, second, "", MS_BIND);
+  if (!bind.done()) GTEST_SKIP() << "needs the right to mount";
+  Error error;
+  EXPECT_NE(files_.createFillerDirectory(second, second + "/.filler", error), nullptr) << error.text();
+}
+
+TEST_F(FillerDirectoryClaim, RemovesWhatAnInterruptedRunLeft) {
+  makeLeftDirectory();
+  writeFile(pathOf(".temp0"), "old");
+  fs::create_hard_link(precious_, pathOf(".temp1"));
+  fs::create_symlink(precious_, pathOf(".temp2"));
+  ASSERT_EQ(::mkfifo(pathOf(".temp3").c_str(), 0600), 0);
+  fs::create_directory(pathOf("empty folder"));
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr) << error_.text();
+  EXPECT_TRUE(fs::is_empty(directory_));
+  EXPECT_TRUE(preciousIsUntouched());
+}
+
+TEST_F(FillerDirectoryClaim, RefusesADirectoryThatHoldsAFolderWithFilesBeforeAnythingIsRemoved) {
+  makeLeftDirectory(0755);
+  for (int number = 0; number < 50; ++number) writeFile(pathOf(".temp" + std::to_string(number)), "old");
+  fs::create_directory(pathOf("holiday"));
+  writeFile(pathOf("holiday/picture"), kPreciousText);
+  expectRefused(ErrorCode::notOurs, "it holds a folder with files");
+  EXPECT_EQ(readFile(pathOf("holiday/picture")), kPreciousText);
+  EXPECT_TRUE(fs::exists(pathOf(".temp0")));
+  EXPECT_TRUE(fs::exists(pathOf(".temp49")));
+  EXPECT_EQ(modeOf(directory_), 0755U);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesADirectoryThatHoldsAMountPoint) {
+  makeLeftDirectory();
+  fs::create_directory(pathOf("inside"));
+  const ScopedMount inside("none", pathOf("inside"), "tmpfs", 0, "size=1m");
+  if (!inside.done()) GTEST_SKIP() << "needs the right to mount";
+  expectRefused(ErrorCode::notOurs, "it leads to another volume");
+}
+
+TEST_F(FillerDirectoryClaim, CheckingALeftDirectoryChangesNothing) {
+  makeLeftDirectory(0750);
+  writeFile(pathOf(".temp0"), "old");
+  EXPECT_FALSE(check().failed());
+  EXPECT_EQ(modeOf(directory_), 0750U);
+  EXPECT_EQ(readFile(pathOf(".temp0")), "old");
+}
+
+TEST_F(FillerDirectoryClaim, TheLockEndsWithTheProcessThatHeldIt) {
+  std::array<int, 2> ready{};
+  ASSERT_EQ(::pipe2(ready.data(), O_CLOEXEC), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const auto directory = create();
+    const char created = directory ? '1' : '0';
+    if (::write(ready[1], &created, 1) == 1) ::pause();
+    ::_exit(1);
+  }
+  char created = '0';
+  EXPECT_EQ(::read(ready[0], &created, 1), 1);
+  EXPECT_EQ(created, '1');
+  EXPECT_EQ(create(), nullptr);
+  EXPECT_EQ(error_.code, ErrorCode::busy);
+  EXPECT_EQ(check().code, ErrorCode::busy);
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  EXPECT_FALSE(check().failed());
+  EXPECT_NE(create(), nullptr) << error_.text();
+  ::close(ready[0]);
+  ::close(ready[1]);
+}
+
+TEST_F(FillerDirectoryClaim, AVolumeThatMayNotBeWrittenIsReported) {
+  ASSERT_EQ(::chmod(volume_.c_str(), 0555), 0);
+  const auto isRefused = [this] {
+    return check().code == ErrorCode::notPermitted && create() == nullptr && error_.code == ErrorCode::notPermitted;
+  };
+  if (::geteuid() == 0) {
+    const auto refused = asAnotherUser(isRefused);
+    if (!refused) GTEST_SKIP() << "needs the right to become another user";
+    EXPECT_TRUE(*refused);
+  } else {
+    EXPECT_TRUE(isRefused());
+  }
+  EXPECT_FALSE(fs::exists(directory_));
+}
+
+TEST_F(FillerDirectoryClaim, AReadOnlyVolumeIsReported) {
+  for (const bool left : {false, true}) {
+    if (left) makeLeftDirectory();
+    const ScopedMount self(volume_, volume_, "", MS_BIND);
+    if (!self.done()) GTEST_SKIP() << "needs the right to mount";
+    ASSERT_EQ(::mount("", volume_.c_str(), "", MS_REMOUNT | MS_BIND | MS_RDONLY, ""), 0);
+    EXPECT_EQ(check().code, ErrorCode::readOnly);
+    EXPECT_EQ(create(), nullptr);
+    EXPECT_EQ(error_.code, ErrorCode::readOnly);
+  }
+}
+
+}  // namespace
+}  // namespace calvero::testing

@@ -1,0 +1,70 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+
+#include "platform/linux/held_files.h"
+
+namespace calvero::testing {
+namespace {
+
+/// A pipe whose reading end tells whether the writing end, given away, has been closed.
+class WatchedDescriptor {
+ public:
+  WatchedDescriptor() {
+    std::array<int, 2> ends{};
+    EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK), 0);
+    reading_ = Descriptor(ends[0]);
+    writing_ = Descriptor(ends[1]);
+  }
+  Descriptor take() { return std::move(writing_); }
+  [[nodiscard]] bool closed() const {
+    char ignored = 0;
+    return ::read(reading_.get(), &ignored, 1) == 0;
+  }
+
+ private:
+  Descriptor reading_;
+  Descriptor writing_;
+};
+
+TEST(HeldFiles, StayOpenUntilTheyAreReleased) {
+  HeldFiles held;
+  WatchedDescriptor file;
+  held.keep(file.take());
+  EXPECT_FALSE(file.closed());
+  held.release();
+  EXPECT_TRUE(file.closed());
+}
+
+TEST(HeldFiles, AreHeldAgainAfterARelease) {
+  HeldFiles held;
+  held.release();
+  WatchedDescriptor file;
+  held.keep(file.take());
+  EXPECT_FALSE(file.closed());
+}
+
+TEST(HeldFiles, AreClosedAtOnceAfterTheLastRelease) {
+  HeldFiles held;
+  WatchedDescriptor before;
+  held.keep(before.take());
+  held.releaseForGood();
+  EXPECT_TRUE(before.closed());
+  WatchedDescriptor late;
+  held.keep(late.take());
+  EXPECT_TRUE(late.closed());
+}
+
+TEST(HeldFiles, EndWithTheirHolder) {
+  WatchedDescriptor file;
+  {
+    HeldFiles held;
+    held.keep(file.take());
+  }
+  EXPECT_TRUE(file.closed());
+}
+
+}  // namespace
+}  // namespace calvero::testing

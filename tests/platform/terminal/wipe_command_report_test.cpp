@@ -1,0 +1,121 @@
+#include "platform/terminal/commands/wipe_command_report.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+namespace calvero {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr bool kMounted = true;
+constexpr bool kNotMounted = false;
+
+WipeReport reportOf(RunOutcome outcome, std::uint64_t faults = 0, ErrorCode code = ErrorCode::other) {
+  WipeReport report;
+  report.volume = "stick";
+  report.mountPath = "/media/stick";
+  report.method = 2;
+  report.passes = 3;
+  report.freeBytes = 2'000'000'000;
+  report.bytesCovered = 1'000'000'000;
+  report.bytesWritten = 3'000'000'000;
+  report.seconds = 3725.5;
+  report.faults = faults;
+  if (faults != 0) report.firstFault = {code, "pwrite", "/media/stick/.temp0", "Input/output error"};
+  report.outcome = outcome;
+  report.exitCode = exitCodeOf(outcome, faults);
+  return report;
+}
+
+TEST(ExitCodeOf, FollowsTheOutcome) {
+  EXPECT_EQ(exitCodeOf(RunOutcome::finished, 0), ExitCode::finished);
+  EXPECT_EQ(exitCodeOf(RunOutcome::failed, 0), ExitCode::failed);
+  EXPECT_EQ(exitCodeOf(RunOutcome::cancelled, 0), ExitCode::cancelled);
+  EXPECT_EQ(exitCodeOf(RunOutcome::none, 0), ExitCode::cancelled) << "declined";
+}
+
+TEST(ExitCodeOf, IsNoSuccessWithFaults) {
+  EXPECT_EQ(exitCodeOf(RunOutcome::finished, 1), ExitCode::failed);
+  EXPECT_EQ(exitCodeOf(RunOutcome::cancelled, 1), ExitCode::cancelled);
+}
+
+TEST(ClosingLine, TellsWhatWasErased) {
+  EXPECT_EQ(closingLine(reportOf(RunOutcome::finished)),
+            "Finished: 1.00 GB of free space erased on stick (/media/stick) with method dod, 3 passes, in 01:02:05.");
+  EXPECT_EQ(closingLine(reportOf(RunOutcome::cancelled)),
+            "Cancelled after 01:02:05: 1.00 GB of 2.00 GB erased on stick (/media/stick).");
+  EXPECT_EQ(closingLine(reportOf(RunOutcome::none)), "Cancelled: nothing was written.");
+}
+
+TEST(FailureLine, IsEmptyWithoutAFlaw) {
+  EXPECT_EQ(failureLine(reportOf(RunOutcome::finished), kMounted), "");
+  EXPECT_EQ(failureLine(reportOf(RunOutcome::cancelled, 1), kMounted), "");
+}
+
+TEST(FailureLine, CountsTheFailedWritesOfAFinishedRun) {
+  EXPECT_EQ(failureLine(reportOf(RunOutcome::finished, 7), kMounted),
+            "7 writes failed on stick (/media/stick), the first one: pwrite /media/stick/.temp0: Input/output error; "
+            "deleted data may remain readable there");
+}
+
+TEST(FailureLine, NamesAVolumeThatTurnedReadOnly) {
+  for (const RunOutcome outcome : {RunOutcome::finished, RunOutcome::failed}) {
+    EXPECT_THAT(failureLine(reportOf(outcome, 1, ErrorCode::readOnly), kMounted),
+                HasSubstr("stick (/media/stick) turned read-only during the run"));
+  }
+}
+
+TEST(FailureLine, TellsAVolumeThatIsGoneFromFilesThatAreGone) {
+  EXPECT_THAT(failureLine(reportOf(RunOutcome::failed), kNotMounted), HasSubstr("is not mounted any more"));
+  EXPECT_THAT(failureLine(reportOf(RunOutcome::failed), kMounted), HasSubstr("filler files"));
+  EXPECT_THAT(failureLine(reportOf(RunOutcome::failed, 1, ErrorCode::gone), kMounted), HasSubstr("medium"));
+}
+
+TEST(RefusalLine, SaysWhatToDo) {
+  const WipeReport report = reportOf(RunOutcome::none);
+  EXPECT_EQ(refusalLine(report, {ErrorCode::readOnly, "", "", ""}), "Read only drive, please select other drives");
+  EXPECT_THAT(refusalLine(report, {ErrorCode::notPermitted, "", "", ""}), HasSubstr("sudo"));
+  EXPECT_THAT(refusalLine(report, {ErrorCode::busy, "", "", ""}), StartsWith("Another run is wiping stick"));
+  EXPECT_THAT(refusalLine(report, {ErrorCode::notOurs, "openat", "/media/stick/.x", "a symbolic link"}),
+              AllOf(HasSubstr("/media/stick/.x"), HasSubstr("a symbolic link"), HasSubstr("move it away")));
+  EXPECT_THAT(refusalLine(report, {ErrorCode::notFound, "", "", ""}), HasSubstr("not mounted"));
+  EXPECT_THAT(refusalLine(report, {ErrorCode::gone, "openat", "/a\nb", "no"}), Not(HasSubstr("\n")));
+}
+
+TEST(ReportJson, HoldsTheFiguresOfTheRun) {
+  const auto json = nlohmann::json::parse(reportJson(reportOf(RunOutcome::finished, 7)));
+  EXPECT_EQ(json["outcome"], "finished");
+  EXPECT_EQ(json["volume"], "stick");
+  EXPECT_EQ(json["mountPath"], "/media/stick");
+  EXPECT_EQ(json["method"], 3);
+  EXPECT_EQ(json["passes"], 3);
+  EXPECT_EQ(json["freeBytes"], 2'000'000'000U);
+  EXPECT_EQ(json["bytesCovered"], 1'000'000'000);
+  EXPECT_EQ(json["bytesWritten"], 3'000'000'000U);
+  EXPECT_DOUBLE_EQ(json["seconds"], 3725.5);
+  EXPECT_EQ(json["faults"], 7);
+  EXPECT_EQ(json["firstFault"], "pwrite /media/stick/.temp0: Input/output error");
+  EXPECT_EQ(json["exitCode"], 1);
+}
+
+TEST(ReportJson, TellsARefusalFromACancel) {
+  WipeReport report;
+  report.volume = "unknown";
+  report.exitCode = ExitCode::refused;
+  auto json = nlohmann::json::parse(reportJson(report));
+  EXPECT_EQ(json["outcome"], "refused");
+  EXPECT_TRUE(json["mountPath"].is_null());
+  EXPECT_TRUE(json["method"].is_null());
+  report.exitCode = ExitCode::cancelled;
+  json = nlohmann::json::parse(reportJson(report));
+  EXPECT_EQ(json["outcome"], "cancelled");
+}
+
+}  // namespace
+}  // namespace calvero

@@ -1,0 +1,185 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/fakes/world.h"
+
+namespace calvero {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using testing::FileCall;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using testing::Steps;
+using testing::World;
+
+class RemoteMode : public ::testing::Test {
+ protected:
+  RemoteMode() { world.volume("DATA", 300'000); }
+
+  /// Makes the poll's timer fire.
+  void minutePasses() { world.loop.fire(world.app().order().cvrTimer); }
+
+  World world;
+};
+
+TEST_F(RemoteMode, IsOffUnlessTheOnlineTagReads1) {
+  for (const char* value : {"0", "", " 1", "1 ", "01", "true", "2"}) {
+    world.order("DATA", "3");
+    world.tags.put("cvrOnline", value);
+    EXPECT_EQ(world.create().order().cloudInitiation, 0) << value;
+  }
+}
+
+TEST_F(RemoteMode, ReadsDriveAndMethodOnlyWhenAnOrderIsPending) {
+  world.create();
+  EXPECT_THAT(world.journal.only({"readTag"}), ElementsAre("readTag cvrOnline"));
+  world.journal.clear();
+  world.order("DATA", "3");
+  const AppDelegate& app = world.create();
+  EXPECT_THAT(world.journal.only({"readTag"}), ElementsAre("readTag cvrOnline", "readTag cvrDrive", "readTag cvrAlgo"));
+  EXPECT_EQ(app.order().cloudInitiation, 1);
+  EXPECT_EQ(app.CDriveName(), "DATA");
+  EXPECT_EQ(app.order().algo, "3");
+}
+
+TEST_F(RemoteMode, UsesTheOrderedMethodWithoutAnyPanel) {
+  world.order("DATA", "8");
+  const AppDelegate& app = world.launch();
+  world.runWorker();
+  EXPECT_EQ(app.methodChoice().eraseMethodSelected, 7);
+  EXPECT_EQ(app.methodChoice().numPassSelected, 35);
+  EXPECT_TRUE(world.controls.isOn(Control::butPETER_GUTTMAN));
+  EXPECT_THAT(world.alerts.shown(), IsEmpty());
+  EXPECT_THAT(world.journal.only({"create", "removeItem"}), ElementsAre("create .temp0", "removeItem .temp0"));
+}
+
+TEST_F(RemoteMode, FillsWithZerosOnceWhenTheOrderedMethodIsNone) {
+  for (const char* value : {"0", "abc"}) {
+    World other;
+    other.volume("DATA", 40'000);
+    other.order("DATA", value);
+    const AppDelegate& app = other.launch();
+    other.runWorker();
+    EXPECT_EQ(app.methodChoice().eraseMethodSelected, 0);
+    EXPECT_EQ(app.methodChoice().numPassSelected, 1);
+    EXPECT_EQ(other.journal.only({"pwrite"}).front(), "pwrite .temp0 32768@0 0x00");
+  }
+}
+
+TEST_F(RemoteMode, HidesTheWindowAndStartsTheRunWithoutAsking) {
+  world.order("DATA", "1");
+  AppDelegate& app = world.launch();
+  app.myCloud();
+  EXPECT_THAT(world.steps(), ElementsAre("orderOut window", "leaveTaskBar", "hide buttonBack", "hide buttonHome",
+                                         "setText tfFreespaceData \"300.00 KB\"", "show buttonCancel",
+                                         "setText tfElapsedData \" \"", "setText tfElapsedTime \"00:00:00\"",
+                                         "setText tfElapsedData \"0.00 KB\"", "sleep 1", "detach", "detach"));
+  EXPECT_EQ(app.shell().display, 0);
+}
+
+TEST_F(RemoteMode, LeavesTheOnlineTagAfterAFinishedRun) {
+  world.order("DATA", "1");
+  world.launch();
+  world.runWorker();
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "2");
+  EXPECT_EQ(world.tags.peek("cvrOnline"), "1");
+  EXPECT_EQ(world.create().order().cloudInitiation, 1) << "the next launch is an order again";
+}
+
+TEST_F(RemoteMode, PollsWithoutEndAndReplacesTheTimerEachTime) {
+  world.order("DATA", "1");
+  world.launch();
+  minutePasses();
+  EXPECT_THAT(world.journal.all(), ElementsAre("stopTimer", "readTag CVRCANCEL", "startTimer 60000 repeating"));
+  minutePasses();
+  minutePasses();
+  EXPECT_EQ(world.loop.timers().size(), 1U);
+  EXPECT_EQ(world.journal.only({"readTag"}).size(), 3U);
+}
+
+TEST_F(RemoteMode, ActsOnlyOnACancelTagOf1) {
+  world.order("DATA", "1");
+  const AppDelegate& app = world.launch();
+  for (const char* value : {"0", "", "2", "11", " 1"}) {
+    world.tags.put("CVRCANCEL", value);
+    minutePasses();
+    EXPECT_EQ(world.tags.peek("CVRCANCEL"), value);
+  }
+  EXPECT_EQ(app.shell().cancelNumber, 0);
+}
+
+TEST_F(RemoteMode, ActsOnTheCancelTagAtTheNextPollResetsItAndKeepsPolling) {
+  world.order("DATA", "1");
+  const AppDelegate& app = world.launch();
+  world.tags.put("CVRCANCEL", "1");
+  minutePasses();
+  EXPECT_EQ(world.tags.peek("CVRCANCEL"), "0");
+  EXPECT_EQ(app.order().cloudTerm, 1);
+  EXPECT_EQ(app.shell().cancelNumber, 1);
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  ASSERT_EQ(world.loop.timers().size(), 1U);
+  world.journal.clear();
+  minutePasses();
+  EXPECT_THAT(world.journal.all(), ElementsAre("stopTimer", "readTag CVRCANCEL", "startTimer 60000 repeating"));
+}
+
+TEST_F(RemoteMode, ResetsTheCancelTagBeforeItCancels) {
+  world.order("DATA", "1");
+  world.launch();
+  world.tags.put("CVRCANCEL", "1");
+  minutePasses();
+  EXPECT_THAT(
+      world.steps(),
+      ElementsAre("stopTimer", "setTag CVRCANCEL \"0\"", "hide proceedBtn",
+                  "setText labelPhase \"Please wait, finishing current process..\"", "setProgressIndeterminate",
+                  "removeLeftDirectory /media/DATA/.$$XE8AQU", "setText tfCleanedSize \"300.00 KB\"",
+                  "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"", "setTag cvrStatus \"3\"",
+                  "selectPage 0", "sleep 3", "terminate", "startTimer 60000 repeating"));
+}
+
+TEST_F(RemoteMode, IsCancelledByTheSystemWideNotification) {
+  world.order("DATA", "1");
+  world.launch();
+  world.systemNotifications.send("cancel wipe", "cancel");
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_EQ(world.loop.terminations(), 1);
+}
+
+TEST_F(RemoteMode, IsCancelledByTheNotificationInOrdinaryModeToo) {
+  const AppDelegate& app = world.start();
+  world.systemNotifications.send("cancel wipe", "cancel");
+  EXPECT_EQ(app.order().cloudTerm, 1);
+  EXPECT_EQ(app.currentRun()->terminateThread, 1);
+  EXPECT_EQ(world.loop.terminations(), 1);
+}
+
+TEST_F(RemoteMode, IgnoresTheNotificationWithAnotherObjectOrName) {
+  const AppDelegate& app = world.start();
+  world.systemNotifications.send("cancel wipe", "other");
+  world.systemNotifications.send("cancel wipe", "");
+  world.systemNotifications.send("cancel", "cancel");
+  EXPECT_EQ(app.shell().cancelNumber, 0);
+  EXPECT_FALSE(app.abortErasing());
+}
+
+TEST_F(RemoteMode, StopsTheWorkerThatIsWritingWhenTheCancelTagIsSeen) {
+  world.order("DATA", "3");
+  world.launch();
+  world.tags.put("CVRCANCEL", "1");
+  world.files.script.before(FileCall::pwrite, 4, [this] { minutePasses(); });
+  world.runWorker();
+  EXPECT_EQ(world.files.script.count(FileCall::pwrite), 6U) << "the block's passes are finished";
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+  EXPECT_EQ(world.journal.only({"setTag cvrStatus"}).size(), 1U);
+}
+
+TEST_F(RemoteMode, PassesColourAndTextOfAMessageOn) {
+  world.launch().popUp({0.25, 0.5, 0.75, 1.0}, "text %@ as it is");
+  EXPECT_THAT(world.journal.all(), ElementsAre("popUp 0.25 0.5 0.75 1 \"text %@ as it is\""));
+}
+
+}  // namespace
+}  // namespace calvero

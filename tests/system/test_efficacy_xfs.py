@@ -1,0 +1,15 @@
+from efficacy import EfficacyTest
+
+
+class EfficacyOnXfs(EfficacyTest):
+    fs = "xfs"
+    mostReadableBytes = 33_600_000  # XFS keeps back up to 8192 blocks for itself.
+
+    def testOnePassLeavesOnlyTheReserveReadable(self):
+        self.checkRun("1")
+
+    def testThreePassesLeaveOnlyTheReserveReadable(self):
+        self.checkRun("3")
+
+    def testAPlainUsersRunLeavesNoMoreThanTheReserveAndTheBlocksOfRoot(self):
+        self.checkRun("1", plainUser=True)

@@ -1,0 +1,53 @@
+"""A medium that goes away under the run: it ends truthfully, never with a success."""
+
+import json
+import shutil
+import subprocess
+
+from case import SystemTest, isWriting
+from testkit import program
+
+
+class LostVolume(SystemTest):
+    def startedOn(self, target):
+        process = self.startWipe(target)
+        program.waitUntil(lambda: isWriting(target, 0), "the first filler file being written")
+        return process
+
+    def checkFailed(self, process, *words):
+        code, output, errors = self.finish(process)
+        self.assertEqual(code, program.EXIT_FAILED, (output, errors))
+        for word in words:
+            self.assertIn(word, (output + errors).lower())
+        return json.loads(output)
+
+    def testAVolumeThatTurnsReadOnlyIsReported(self):
+        target = self.makeVolume("ext4", 320)
+        process = self.startedOn(target)
+        # As the file system itself does on a damaged medium.
+        target.remount("abort")
+        report = self.checkFailed(process, "read-only")
+        self.assertGreater(report["faults"], 0)
+
+    def testAMediumThatFailsIsReported(self):
+        target = self.makeVolume("xfs", 400)
+        if shutil.which("xfs_io") is None:
+            self.skipTest("xfs_io is not installed")
+        process = self.startedOn(target)
+        subprocess.run(["xfs_io", "-x", "-c", "shutdown", target.path], check=True)
+        report = self.checkFailed(process)
+        self.assertGreater(report["faults"], 0)
+
+    def testAVolumeTakenOutOfTheTreeIsReported(self):
+        target = self.makeVolume("ext4", 320)
+        process = self.startedOn(target)
+        target.detach()
+        self.assertEqual(self.checkFailed(process)["outcome"], "failed")
+
+    def testAFillerDirectoryRemovedFromOutsideIsReported(self):
+        target = self.makeVolume("ext4", 320)
+        freeBefore = target.freeBytes()
+        process = self.startedOn(target)
+        shutil.rmtree(target.fillerDirectory())
+        self.checkFailed(process)
+        self.assertFreeAgain(target, freeBefore)

@@ -1,0 +1,30 @@
+from case import SystemTest, isWriting
+from testkit import program
+from testkit.volume import FILLER_BYTES
+
+
+class TwoRuns(SystemTest):
+    def testTheSecondRunOnAVolumeIsRefusedAndTheFirstOneUnharmed(self):
+        for plainUser in (False, True):
+            with self.subTest(plainUser=plainUser):
+                target = self.makeVolume("ext4", 300)
+                freeBefore = target.freeBytes()
+                first = self.startWipe(target, plainUser=plainUser)
+                program.waitUntil(lambda: isWriting(target, 0), "the first run writing")
+                second = self.runProgram("wipe", target.path, "--method", "1", "--yes", plainUser=plainUser)
+                self.assertRefused(second, "another", "wip")
+                self.assertIsNone(first.poll(), "the first run is under way all the time")
+                code, output, errors = self.finish(first)
+                self.assertEqual(code, program.EXIT_FINISHED, (output, errors))
+                self.assertNothingLeft(target)
+                self.assertFreeAgain(target, freeBefore)
+
+    def testTwoVolumesAreWipedAtTheSameTime(self):
+        first, second = self.makeVolume("ext4", 160), self.makeVolume("xfs", 320)
+        self.assertGreater(second.freeBytes(), FILLER_BYTES)
+        runs = [self.startWipe(first), self.startWipe(second)]
+        for run in runs:
+            code, output, errors = self.finish(run)
+            self.assertEqual(code, program.EXIT_FINISHED, (output, errors))
+        self.assertNothingLeft(first)
+        self.assertNothingLeft(second)

@@ -1,0 +1,1 @@
+"""What the system tests and the demonstration share: throwaway volumes, marked data, and ways to run the program."""

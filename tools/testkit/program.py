@@ -1,0 +1,106 @@
+"""Runs calvero-cli: to its end, in the background, on a terminal of its own, or under strace."""
+
+import fcntl
+import os
+import pty
+import select
+import shutil
+import signal
+import subprocess
+import tempfile
+import termios
+import time
+
+PLAIN_USER = 65534
+EXIT_FINISHED, EXIT_FAILED, EXIT_WRONG_USAGE, EXIT_REFUSED, EXIT_CANCELLED = range(5)
+
+
+def programPath():
+    path = os.environ.get("CALVERO_CLI", "")
+    if not os.access(path, os.X_OK):
+        raise SystemExit("CALVERO_CLI must name the calvero-cli program")
+    return os.path.abspath(path)
+
+
+class PublicCopy:
+    """A copy of the program that every user may start, wherever the build folder lies."""
+
+    def __init__(self):
+        self._folder = tempfile.mkdtemp(prefix="calvero-program-")
+        os.chmod(self._folder, 0o755)
+        self.path = shutil.copy(programPath(), self._folder)
+        os.chmod(self.path, 0o755)
+
+    def remove(self):
+        shutil.rmtree(self._folder)
+
+
+def identity(plainUser):
+    return {"user": PLAIN_USER, "group": PLAIN_USER, "extra_groups": []} if plainUser else {}
+
+
+def waitUntil(condition, what, seconds=60):
+    """Polls `condition` and returns its first true value; fails loudly when it never comes."""
+    deadline = time.monotonic() + seconds
+    while time.monotonic() < deadline:
+        if value := condition():
+            return value
+        time.sleep(0.002)
+    raise AssertionError(f"waited {seconds} s in vain: {what}")
+
+
+class TerminalProgram:
+    """A program whose standard streams are a terminal of its own; remembers what it printed, and when."""
+
+    def __init__(self, command, columns=80, term="xterm"):
+        self._controller, terminal = pty.openpty()
+        fcntl.ioctl(terminal, termios.TIOCSWINSZ, bytes((24, 0, columns, 0, 0, 0, 0, 0)))
+        self.process = subprocess.Popen(
+            command, stdin=terminal, stdout=terminal, stderr=terminal, env=os.environ | {"TERM": term},
+            start_new_session=True, preexec_fn=lambda: fcntl.ioctl(0, termios.TIOCSCTTY, 0))
+        os.close(terminal)
+        self.reads = []  # (seconds, bytes)
+
+    @property
+    def text(self):
+        return b"".join(data for _, data in self.reads).decode(errors="replace")
+
+    def readSome(self, seconds):
+        """Reads what there is within `seconds`; False at the end of the output."""
+        if not select.select([self._controller], [], [], seconds)[0]:
+            return True
+        try:
+            data = os.read(self._controller, 65536)
+        except OSError:  # EIO: the program has closed its end
+            return False
+        self.reads.append((time.monotonic(), data))
+        return bool(data)
+
+    def readUntil(self, words, seconds=60):
+        start = len(self.text)
+        deadline = time.monotonic() + seconds
+        while words not in self.text[self._answered:]:
+            if time.monotonic() > deadline or not self.readSome(0.1):
+                raise AssertionError(f"{words!r} never came; printed since {start}: {self.text!r}")
+
+    _answered = 0
+
+    def answer(self, line):
+        self._answered = len(self.text)
+        os.write(self._controller, line.encode() + b"\n")
+
+    def waitForEnd(self, seconds=120):
+        deadline = time.monotonic() + seconds
+        while self.readSome(0.1):
+            if time.monotonic() > deadline:
+                self.close()
+                raise AssertionError(f"still running after {seconds} s; printed: {self.text!r}")
+        return self.process.wait(timeout=30)
+
+    def close(self):
+        if self.process.poll() is None:
+            self.process.send_signal(signal.SIGKILL)
+            self.process.wait()
+        if self._controller is not None:
+            os.close(self._controller)
+            self._controller = None

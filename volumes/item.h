@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <utility>
+
+namespace calvero {
+
+/// The model of one tile of the drive picker.
+class Item {
+ public:
+  /// No tile of the catalogue is made this way; the title tells a stray one apart.
+  Item() : Item("Test Title") {}
+  explicit Item(std::string title) : title_(std::move(title)) {}
+
+  [[nodiscard]] const std::string& title() const { return title_; }
+
+ private:
+  std::string title_;
+};
+
+/// A remembered picker index. The controller keeps one; nothing reads it.
+class CurrentSelection {
+ public:
+  [[nodiscard]] std::size_t getCurrentSelection() const { return currentSelection_; }
+  void setCurrentSelection(std::size_t index) { currentSelection_ = index; }
+
+ private:
+  std::size_t currentSelection_ = 0;
+};
+
+}  // namespace calvero

@@ -1,0 +1,74 @@
+#include <chrono>
+
+#include "app/app_delegate.h"
+#include "ports/alerts.h"
+#include "ports/clock.h"
+#include "ports/controls.h"
+#include "ports/event_loop.h"
+#include "ports/pop_up_window.h"
+
+namespace calvero {
+namespace {
+
+constexpr Colour kOrange{1.0, 119.0 / 255.0, 52.0 / 255.0, 1.0};
+constexpr std::chrono::seconds kTimeToReadTheMessage{3};
+
+}  // namespace
+
+void AppDelegate::cancelWipe() {
+  const RunPtr run = run_;
+  run->terminateThread = 1;
+  run->abortErasing = 1;
+  run->end(RunOutcome::cancelled);
+  ++shell_.cancelNumber;
+  Controls& controls = ports_.controls;
+  controls.hide(Control::proceedBtn);
+  controls.setText(Control::labelPhase, localised("Please wait, finishing current process.."));
+  controls.setProgressIndeterminate();
+  deleteFiles(*run);
+  if (run->applicationEnding != 0) return;
+  if (order_.cloudInitiation != 0) {
+    endCancelledRemoteRun();
+  } else if (order_.cloudTerm != 0) {
+    ports_.eventLoop.terminate();
+  } else {
+    returnToFirstPageAfterCancel();
+  }
+}
+
+void AppDelegate::returnToFirstPageAfterCancel() {
+  ports_.alerts.runModal({localised("Information"), localised("Wiping process aborted"), localised("OK"), ""});
+  ports_.eventLoop.post([this] { reloadVolumes(); });
+  ports_.eventLoop.post([this] { reloadVolumes(); });  // listed twice, as a cancel always has
+  ports_.eventLoop.post([this] { back(); });
+  ports_.controls.setText(Control::labelPhase, localised("Phase 1: Analyzing Data.."));
+  ports_.controls.redraw(Control::labelPhase);
+}
+
+void AppDelegate::endCancelledRemoteRun() {
+  popUp(kOrange, "Remote Wiping Process has been aborted.");
+  authentication_.SetValueForTag(kTagStatus, kStatusFailed);
+  ports_.controls.selectPage(Page::volume);
+  ports_.clock.sleep(kTimeToReadTheMessage);
+  ports_.eventLoop.terminate();
+}
+
+void AppDelegate::OKBtn() {
+  ports_.eventLoop.post([this] {
+    back();
+    ports_.controls.orderOut(Control::windowCompleted);
+  });
+}
+
+void AppDelegate::eraseCompletedOK() {
+  Controls& controls = ports_.controls;
+  controls.selectPage(Page::volume);
+  run_->abortErasing = 1;
+  controls.hide(Control::buttonCancel);
+  controls.setProgressIndeterminate();
+  controls.show(Control::buttonNext);
+  controls.hide(Control::buttonProceed);
+  shell_.wipingProcessOn = 0;
+}
+
+}  // namespace calvero

@@ -1,0 +1,98 @@
+#include <chrono>
+
+#include "app/app_delegate.h"
+#include "ports/clock.h"
+#include "ports/controls.h"
+#include "ports/files.h"
+#include "ports/pop_up_window.h"
+#include "ports/system_log.h"
+#include "wipe/filler_names.h"
+
+namespace calvero {
+namespace {
+
+constexpr Colour kGreen{0.0, 1.0, 0.0, 1.0};
+constexpr std::chrono::seconds kTimeToReadTheMessage{7};
+
+/// A removal that fails this way means that the volume is lost; other failures leave the run as it is.
+bool meansLostVolume(ErrorCode code) {
+  return code == ErrorCode::readOnly || code == ErrorCode::gone;
+}
+
+std::string withVolumeName(std::string format, const std::string& name) {
+  const std::string placeholder = "%@";
+  const auto at = format.find(placeholder);
+  return at == std::string::npos ? format : format.replace(at, placeholder.size(), name);
+}
+
+}  // namespace
+
+void AppDelegate::deleteByFiles(WipeRun& run, std::uint64_t index) {
+  if (!volumePathOf(run)) {
+    run.abortErasing = 1;
+    run.end(RunOutcome::failed);
+    return;
+  }
+  const auto directory = run.directory();
+  if (!directory) return;
+  const Error error = directory->removeItem(run.filePathsArray[index]);
+  if (meansLostVolume(error.code) && !run.stopRequested()) run.noteFault(error);
+}
+
+void AppDelegate::deleteFiles(WipeRun& run) {
+  auto volumePath = volumePathOf(run);
+  if (volumePath && !ports_.files.exists(*volumePath)) volumePath.reset();
+  if (!volumePath) {
+    run.abortErasing = 1;
+    run.end(RunOutcome::failed);
+    // The volume may only be out of sight, and would stay busy while its space is held.
+    if (const auto directory = run.directory()) directory->releaseSpace();
+    return;
+  }
+  removeFillerDirectory(run, *volumePath);
+  if (run.abortErasing == 0 && order_.cloudInitiation != 0) {
+    reportRemoteCompletion(run);
+    return;
+  }
+  run.screen.apply([size = getFormattedStringForSize(volumeOf(run).freeBytes())](Controls& controls) {
+    controls.setText(Control::tfCleanedSize, size);
+  });
+}
+
+void AppDelegate::removeFillerDirectory(WipeRun& run, const std::string& volumePath) {
+  Error error;
+  if (const auto directory = run.directory()) {
+    directory->releaseSpace();
+    if (const std::uint64_t bytes = directory->bytesNotKept(); bytes != 0) {
+      ports_.log.notice(
+          getFormattedStringForSize(bytes) +
+          " could not be held until the end of the run (limit of open files): as much of what was deleted "
+          "may remain readable");
+    }
+    error = directory->remove();
+  } else {
+    error = ports_.files.removeFillerDirectory(volumePath, fillerDirectoryPath(volumePath));
+  }
+  if (!error.failed() || error.code == ErrorCode::notFound) return;
+  // Some file systems keep an entry while the worker still has its file open; it removes the directory when it ends.
+  if (run.stopRequested()) {
+    ports_.log.line(error.text());
+  } else {
+    ports_.log.notice(error.text());
+  }
+  if (!meansLostVolume(error.code)) return;
+  run.noteFault(error);
+  run.volumeEjected = 1;
+  run.abortErasing = 1;
+  run.end(RunOutcome::failed);
+}
+
+void AppDelegate::reportRemoteCompletion(WipeRun& run) {
+  popUp(kGreen, withVolumeName(localised("Your admin successfuly completed\n Calvero on:%@"), order_.CDriveName));
+  ports_.clock.sleep(kTimeToReadTheMessage);
+  authentication_.SetValueForTag(kTagStatus, kStatusFinished);
+  run.end(RunOutcome::finished);
+  endApplication(run);
+}
+
+}  // namespace calvero

@@ -1,0 +1,20 @@
+#include "wipe/filler_names.h"
+
+namespace calvero {
+namespace {
+
+// The leading dot hides the directory and its files from ordinary listings.
+constexpr const char* kDirectoryName = ".$$XE8AQU";
+constexpr const char* kFilePrefix = "/.temp";
+
+}  // namespace
+
+std::string fillerDirectoryPath(const std::string& volumePath) {
+  return (volumePath == "/" ? volumePath : volumePath + "/") + kDirectoryName;
+}
+
+std::string fillerFilePath(const std::string& volumePath, std::uint64_t number) {
+  return fillerDirectoryPath(volumePath) + kFilePrefix + std::to_string(number);
+}
+
+}  // namespace calvero

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace calvero {
+
+/// Size of one filler file when written, in bytes: decimal, not a power of two. The layout divides the free space by
+/// it, and the erased amount counts in it.
+constexpr std::uint64_t kFillerFileBytes = 128'000'000;
+
+/// The hidden filler directory of the volume mounted at `volumePath`: "/.$$XE8AQU" for "/", else
+/// "<volumePath>/.$$XE8AQU".
+std::string fillerDirectoryPath(const std::string& volumePath);
+
+/// Filler file `number` of that volume: ".temp" and the number, inside the filler directory.
+std::string fillerFilePath(const std::string& volumePath, std::uint64_t number);
+
+}  // namespace calvero

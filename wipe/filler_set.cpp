@@ -1,0 +1,50 @@
+#include <utility>
+
+#include "app/app_delegate.h"
+#include "ports/controls.h"
+#include "ports/files.h"
+#include "ports/system_log.h"
+#include "wipe/filler_names.h"
+
+namespace calvero {
+
+std::uint64_t AppDelegate::getNumbOfFiles(const WipeRun& run) const {
+  return volumeOf(run).freeBytes() / kFillerFileBytes;
+}
+
+void AppDelegate::createFile(WipeRun& run) {
+  const auto volumePath = volumePathOf(run);
+  if (run.applicationEnding != 0) return;
+  if (!volumePath) {
+    reportUnknownError(run);
+    return;
+  }
+  makeFillerDirectory(run, *volumePath);
+  const auto directory = run.directory();
+  run.numTempFiles = getNumbOfFiles(run);
+  // One file more than fit: it stands for the remainder of the free space, and is written to its full size like the
+  // others, until the volume is full.
+  for (std::uint64_t i = 0; i <= run.numTempFiles; ++i) {
+    if (run.terminateThread != 0) return;
+    if (run.abortErasing != 0) {
+      run.screen.apply([](Controls& controls) { controls.selectPage(Page::volume); });
+      return;
+    }
+    const std::string& path = run.filePathsArray.emplace_back(fillerFilePath(*volumePath, i));
+    if (directory) directory->createEmptyFile(path);
+    ++run.counters.filesCreated;
+  }
+}
+
+void AppDelegate::makeFillerDirectory(WipeRun& run, const std::string& volumePath) {
+  Error error;
+  std::shared_ptr<FillerDirectory> directory =
+      ports_.files.createFillerDirectory(volumePath, fillerDirectoryPath(volumePath), error);
+  if (error.failed()) ports_.log.notice(error.text());
+  if (!directory) return;
+  run.setDirectory(directory);
+  // A cancel that came while the directory was being made has found none to remove.
+  if (run.stopRequested()) directory->remove();
+}
+
+}  // namespace calvero

@@ -1,0 +1,102 @@
+#include <algorithm>
+
+#include "app/app_delegate.h"
+#include "ports/controls.h"
+#include "ports/files.h"
+#include "wipe/block_plan.h"
+
+namespace calvero {
+namespace {
+
+// A full volume is how a fill ends, and a cancel takes the file away under the writer: neither is a fault.
+bool isFault(const WipeRun& run, ErrorCode code) {
+  return code != ErrorCode::none && code != ErrorCode::full && !run.stopRequested();
+}
+
+void noteIfFault(WipeRun& run, ErrorCode code, const char* operation, const std::string& path) {
+  if (isFault(run, code)) run.noteFault({code, operation, path, describe(code)});
+}
+
+/// Writes all passes of one block after the other, each flushed to the medium before the next.
+class BlockWriter {
+ public:
+  BlockWriter(const AppDelegate& app, WipeRun& run, FillerFile& file, const std::string& path)
+      : app_(app),
+        run_(run),
+        file_(file),
+        path_(path),
+        passes_(app.methodChoice().numPassSelected),
+        method_(app.methodChoice().eraseMethodSelected) {}
+
+  /// Every pass is attempted whatever became of the one before. Whether all writes succeeded.
+  bool writeBlock(std::uint64_t offset) {
+    std::int64_t covered = passes_ > 0 ? kBlockBytes : 0;
+    for (std::int32_t pass = 0; pass < passes_; ++pass) {
+      covered = std::min(covered, writePass(pass, offset, kBlockBytes));
+    }
+    noteCovered(covered);
+    return covered >= 0;
+  }
+
+  /// Failed writes are passed over, and a stop request is heeded between two passes.
+  void writeLastBlock(std::uint64_t offset, std::int32_t bytes) {
+    std::int64_t covered = passes_ > 0 ? bytes : 0;
+    for (std::int32_t pass = 0; pass < passes_; ++pass) {
+      if (run_.abortErasing != 0) return;
+      covered = std::min(covered, writePass(pass, offset, bytes));
+    }
+    noteCovered(covered);
+  }
+
+ private:
+  /// Bytes written, or -1.
+  std::int64_t writePass(std::int32_t pass, std::uint64_t offset, std::int32_t bytes) {
+    current_ = app_.fillBuffer(current_, kBlockBytes, method_, pass);
+    const WriteResult result = file_.pwrite(current_, static_cast<std::size_t>(bytes), offset);
+    noteIfFault(run_, result.error, "pwrite", path_);
+    noteIfFault(run_, file_.fsync(), "fsync", path_);
+    if (result.bytes > 0) run_.counters.bytesWritten += static_cast<std::uint64_t>(result.bytes);
+    return result.bytes;
+  }
+
+  void noteCovered(std::int64_t bytes) {
+    if (bytes > 0) run_.counters.bytesCovered += static_cast<std::uint64_t>(bytes);
+  }
+
+  const AppDelegate& app_;
+  WipeRun& run_;
+  FillerFile& file_;
+  const std::string& path_;
+  const std::int32_t passes_;  // read once for each file
+  const std::int32_t method_;
+  const std::uint8_t* current_ = nullptr;
+};
+
+}  // namespace
+
+void AppDelegate::fillFilePath(WipeRun& run, const std::string& path, std::uint64_t size) {
+  if (run.abortErasing != 0) {
+    run.screen.apply([](Controls& controls) { controls.selectPage(Page::volume); });
+    return;
+  }
+  const auto directory = run.directory();
+  if (!directory) return;
+  Error error;
+  const auto file = directory->openForWriting(path, error);
+  if (!file) {
+    noteIfFault(run, error.code, error.operation.c_str(), path);
+    return;
+  }
+
+  const BlockPlan plan = blockPlan(size);
+  BlockWriter writer(*this, run, *file, path);
+  std::uint64_t block = 0;
+  bool writeFailed = false;
+  while (block + 1 < static_cast<std::uint64_t>(plan.count) && run.abortErasing != 1 && !writeFailed) {
+    writeFailed = !writer.writeBlock(block * kBlockBytes);
+    ++block;
+  }
+  writer.writeLastBlock(block * kBlockBytes, plan.lastBytes);
+}
+
+}  // namespace calvero

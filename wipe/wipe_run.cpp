@@ -1,0 +1,43 @@
+#include "wipe/wipe_run.h"
+
+#include <utility>
+
+#include "ports/files.h"
+
+namespace calvero {
+
+WipeRun::WipeRun(EventLoop& eventLoop, Controls& controls, Alerts& alerts) : screen(eventLoop, controls, alerts) {}
+
+WipeRun::~WipeRun() = default;
+
+void WipeRun::end(RunOutcome how) {
+  RunOutcome expected = RunOutcome::none;
+  outcome.compare_exchange_strong(expected, how);
+}
+
+std::shared_ptr<FillerDirectory> WipeRun::directory() const {
+  const std::scoped_lock lock(mutex_);
+  return directory_;
+}
+
+void WipeRun::setDirectory(std::shared_ptr<FillerDirectory> directory) {
+  const std::scoped_lock lock(mutex_);
+  directory_.swap(directory);
+}
+
+void WipeRun::noteFault(const Error& fault) {
+  const std::scoped_lock lock(mutex_);
+  if (faults_++ == 0) firstFault_ = fault;
+}
+
+Error WipeRun::firstFault() const {
+  const std::scoped_lock lock(mutex_);
+  return firstFault_;
+}
+
+std::uint64_t WipeRun::faults() const {
+  const std::scoped_lock lock(mutex_);
+  return faults_;
+}
+
+}  // namespace calvero

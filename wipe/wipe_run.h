@@ -1,0 +1,86 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "ports/error.h"
+#include "volumes/volume_table.h"
+#include "wipe/run_screen.h"
+
+namespace calvero {
+
+class FillerDirectory;
+
+/// How a run ended. The first outcome that is noted stands.
+enum class RunOutcome : std::uint8_t {
+  none,      ///< not started, or still under way
+  finished,  ///< every filler file was written in its turn and the directory is removed
+  failed,    ///< the volume or a filler file is gone
+  cancelled,
+};
+
+/// Figures that the worker publishes while it writes, for whoever looks. They may lag behind each other by one block.
+struct RunCounters {
+  std::atomic<std::uint64_t> bytesCovered{0};  ///< bytes of the volume that received every pass
+  std::atomic<std::uint64_t> bytesWritten{0};  ///< bytes written, all passes counted
+  std::atomic<std::uint64_t> filesCreated{0};
+  std::atomic<std::uint64_t> filesDone{0};
+};
+
+/// One wipe, from the moment it can be started to the end of its last thread.
+///
+/// The controller holds the current run; each thread of a run shares its own. A stop request is written into the run
+/// it is meant for, so a worker that was told to stop stays told however late it looks, and the next run starts with
+/// flags of its own. Members without a note of their own belong to the worker while it lives, and to the event loop
+/// thread before and after.
+struct WipeRun {
+  WipeRun(EventLoop& eventLoop, Controls& controls, Alerts& alerts);
+  ~WipeRun();
+
+  // Stop flags, polled by the worker and the clock. `abortErasing` also marks a finished run as over.
+  std::atomic<std::uint8_t> abortErasing{0};
+  std::atomic<std::uint8_t> terminateThread{0};
+  std::atomic<std::uint8_t> volumeEjected{0};
+
+  std::uint64_t numTempFiles = 0;           ///< whole filler files that the free space holds
+  std::vector<std::string> filePathsArray;  ///< the filler file set, in creation order
+  VolumeSelection volume;                   ///< the volume as it was listed when the run started; unset before
+  std::string elapsed_time;                 ///< the clock thread's last text; nothing reads it
+
+  RunCounters counters;
+  std::atomic<RunOutcome> outcome{RunOutcome::none};
+  std::atomic<std::uint8_t> workerEnded{0};
+  /// The application has been asked to end: no further step of this run is taken.
+  std::atomic<std::uint8_t> applicationEnding{0};
+
+  /// The screen as this run's threads may use it.
+  RunScreen screen;
+
+  [[nodiscard]] bool stopRequested() const { return abortErasing != 0 || terminateThread != 0; }
+  /// Notes the outcome unless one stands already.
+  void end(RunOutcome how);
+
+  /// The filler directory while the run has one, else null. Any thread.
+  [[nodiscard]] std::shared_ptr<FillerDirectory> directory() const;
+  void setDirectory(std::shared_ptr<FillerDirectory> directory);
+
+  /// Remembers the first write, flush or removal that failed for another reason than a full volume. A run with a fault
+  /// may have left data readable, whatever its outcome. Any thread.
+  void noteFault(const Error& fault);
+  [[nodiscard]] Error firstFault() const;
+  [[nodiscard]] std::uint64_t faults() const;
+
+ private:
+  mutable std::mutex mutex_;  // guards the members below; never held across a call to the outside
+  std::shared_ptr<FillerDirectory> directory_;
+  Error firstFault_;
+  std::uint64_t faults_ = 0;
+};
+
+using RunPtr = std::shared_ptr<WipeRun>;
+
+}  // namespace calvero
