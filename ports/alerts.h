@@ -21,7 +21,8 @@ class Alerts {
 
   /// Shows the alert and waits for the answer; other events go on being served meanwhile. Event loop thread. Leaving
   /// the alert without a button (Escape, end of input, the program ending) gives the alternate button if it is drawn,
-  /// else the default one.
+  /// else the default one. A face may also give up a notice that comes before a run by an exception of its own, which
+  /// passes through `proceed`; then no run is started.
   virtual AlertAnswer runModal(const Alert& alert) = 0;
 };
 

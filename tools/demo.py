@@ -9,7 +9,7 @@ import subprocess
 import sys
 
 from testkit.marks import KeptFiles, MarkedData
-from testkit.program import programPath
+from testkit.program import endWithParent, programPath
 from testkit.volume import MEBIBYTE, MEGABYTE, Unavailable, Volume
 
 VOLUME_BYTES = 400 * MEGABYTE // MEBIBYTE * MEBIBYTE
@@ -34,7 +34,8 @@ def asMegabytes(number):
 def arguments():
     parser = argparse.ArgumentParser(prog="./run demo", description=__doc__)
     parser.add_argument("--fs", choices=("ext4", "xfs", "btrfs"), default="ext4")
-    parser.add_argument("--method", default="1", metavar="N", help="erase method, 1 to 9 (default: 1)")
+    parser.add_argument("--method", choices=tuple("123456789"), default="1", metavar="N",
+                        help="erase method, 1 to 9 (default: 1)")
     return parser.parse_args()
 
 
@@ -60,7 +61,13 @@ def prepare(volume):
 
 
 def wipe(volume, method):
-    return subprocess.run([programPath(), "wipe", volume.path, "--method", method, "--yes"], check=False).returncode
+    process = subprocess.Popen([programPath(), "wipe", volume.path, "--method", method, "--yes"],
+                               preexec_fn=endWithParent)
+    try:
+        return process.wait()
+    except KeyboardInterrupt:  # it reached the program too, which is cleaning up
+        process.wait()
+        raise
 
 
 def faultsAfter(volume, kept, marked, freeBefore, allowed):

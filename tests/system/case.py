@@ -8,7 +8,7 @@ import subprocess
 import unittest
 
 from testkit import program, volume
-from testkit.program import identity
+from testkit.program import startedAs
 from testkit.volume import FILLER_BYTES, MEBIBYTE, MEGABYTE, Unavailable, Volume
 
 # Metadata that a run may leave allocated: directory blocks, B-tree nodes.
@@ -38,7 +38,7 @@ class SystemTest(unittest.TestCase):
 
     def runCommand(self, command, plainUser=False):
         return subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, text=True,
-                              timeout=FILL_TIMEOUT_SECONDS, **identity(plainUser))
+                              timeout=FILL_TIMEOUT_SECONDS, **startedAs(plainUser))
 
     def runProgram(self, *arguments, plainUser=False):
         return self.runCommand([self.programFor(plainUser), *arguments], plainUser)
@@ -53,7 +53,7 @@ class SystemTest(unittest.TestCase):
 
     def startProgram(self, *arguments, plainUser=False):
         process = subprocess.Popen([self.programFor(plainUser), *arguments], stdin=subprocess.DEVNULL,
-                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, **identity(plainUser))
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, **startedAs(plainUser))
 
         def end():
             if process.poll() is None:

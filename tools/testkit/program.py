@@ -1,5 +1,6 @@
 """Runs calvero-cli: to its end, in the background, on a terminal of its own, or under strace."""
 
+import ctypes
 import fcntl
 import os
 import pty
@@ -12,6 +13,7 @@ import termios
 import time
 
 PLAIN_USER = 65534
+_PR_SET_PDEATHSIG = 1
 EXIT_FINISHED, EXIT_FAILED, EXIT_WRONG_USAGE, EXIT_REFUSED, EXIT_CANCELLED = range(5)
 
 
@@ -35,8 +37,15 @@ class PublicCopy:
         shutil.rmtree(self._folder)
 
 
-def identity(plainUser):
-    return {"user": PLAIN_USER, "group": PLAIN_USER, "extra_groups": []} if plainUser else {}
+def endWithParent():
+    """In a child that is about to become the program: a killed test or demonstration leaves no run behind."""
+    ctypes.CDLL(None).prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
+
+
+def startedAs(plainUser):
+    """Options for subprocess."""
+    options = {"preexec_fn": endWithParent}
+    return options | {"user": PLAIN_USER, "group": PLAIN_USER, "extra_groups": []} if plainUser else options
 
 
 def waitUntil(condition, what, seconds=60):
@@ -55,11 +64,17 @@ class TerminalProgram:
     def __init__(self, command, columns=80, term="xterm"):
         self._controller, terminal = pty.openpty()
         fcntl.ioctl(terminal, termios.TIOCSWINSZ, bytes((24, 0, columns, 0, 0, 0, 0, 0)))
+
+        def takeTerminal():
+            endWithParent()
+            fcntl.ioctl(0, termios.TIOCSCTTY, 0)
+
         self.process = subprocess.Popen(
             command, stdin=terminal, stdout=terminal, stderr=terminal, env=os.environ | {"TERM": term},
-            start_new_session=True, preexec_fn=lambda: fcntl.ioctl(0, termios.TIOCSCTTY, 0))
+            start_new_session=True, preexec_fn=takeTerminal)
         os.close(terminal)
         self.reads = []  # (seconds, bytes)
+        self._answered = 0
 
     @property
     def text(self):
@@ -77,13 +92,11 @@ class TerminalProgram:
         return bool(data)
 
     def readUntil(self, words, seconds=60):
-        start = len(self.text)
+        """Waits for `words` to be printed after the last answer."""
         deadline = time.monotonic() + seconds
         while words not in self.text[self._answered:]:
             if time.monotonic() > deadline or not self.readSome(0.1):
-                raise AssertionError(f"{words!r} never came; printed since {start}: {self.text!r}")
-
-    _answered = 0
+                raise AssertionError(f"{words!r} never came; printed: {self.text!r}")
 
     def answer(self, line):
         self._answered = len(self.text)

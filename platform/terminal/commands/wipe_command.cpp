@@ -49,7 +49,7 @@ class WipeCommand {
     announce();
     session.run();
     const bool threadsEnded = ports_.threads.waitForAll(kTimeForThreadsToEnd);
-    conclude(session, threadsEnded);
+    conclude(session);
     // A thread that hangs in the kernel would find everything destroyed under it.
     if (!threadsEnded) std::_Exit(static_cast<int>(report_.exitCode));
     return report_.exitCode;
@@ -97,12 +97,8 @@ class WipeCommand {
                          shortened(writtenSequence(method.number)) + ".");
   }
 
-  void conclude(const WipeCommandSession& session, bool threadsEnded) {
+  void conclude(const WipeCommandSession& session) {
     const RunPtr& run = session.theRun();
-    if (run && threadsEnded && run->outcome == RunOutcome::failed && run->faults() == 0) {
-      // The controller leaves the directory of a run that it gave up; nobody else would remove it.
-      app_.deleteFiles(*run);
-    }
     addRun(report_, run.get());
     report_.seconds = session.seconds();
     const bool isMounted = report_.exitCode != ExitCode::failed || app_.getVolumePath(report_.volume).has_value();

@@ -108,7 +108,8 @@ ProgressFigures WipeCommandSession::figures() {
   if (isCancelling_) return shown;  // the caption must not give way to figures that no longer move
 
   shown.erased = AppDelegate::getFormattedStringForSize(covered);
-  shown.total = AppDelegate::getFormattedStringForSize(freeBytes_);
+  // More than was listed can turn up, such as space that another program has freed since.
+  if (covered <= freeBytes_) shown.total = AppDelegate::getFormattedStringForSize(freeBytes_);
   if (bytesPerSecond > 0) {
     shown.rate = AppDelegate::getFormattedStringForSize(static_cast<std::uint64_t>(bytesPerSecond)) + "/s";
   }
