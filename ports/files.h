@@ -53,7 +53,8 @@ class FillerDirectory {
   /// Whether a directory entry of that name exists. Links are not followed.
   virtual bool exists(const std::string& path) = 0;
 
-  /// Reads the entry's attributes, as is done before each file is written; nothing looks at them. Links are not followed.
+  /// Reads the entry's attributes, as is done before each file is written; nothing looks at them. Links are not
+  /// followed.
   virtual Error readAttributes(const std::string& path) = 0;
 
   /// Opens a filler file made by `createEmptyFile`. Null with `error` filled when it cannot be opened or is not what

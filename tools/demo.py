@@ -31,8 +31,13 @@ def asMegabytes(number):
     return f"{number / MEGABYTE:.2f} MB"
 
 
+class OneLineParser(argparse.ArgumentParser):
+    def error(self, message):
+        self.exit(2, f"{self.prog}: {message}; see {self.prog} --help\n")
+
+
 def arguments():
-    parser = argparse.ArgumentParser(prog="./run demo", description=__doc__)
+    parser = OneLineParser(prog="./run demo", description=__doc__)
     parser.add_argument("--fs", choices=("ext4", "xfs", "btrfs"), default="ext4")
     parser.add_argument("--method", choices=tuple("123456789"), default="1", metavar="N",
                         help="erase method, 1 to 9 (default: 1)")

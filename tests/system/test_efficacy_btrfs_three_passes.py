@@ -8,6 +8,6 @@ class EfficacyOnBtrfsInThreePasses(EfficacyTest):
 
     def testThreePassesLeaveNothingReadableAndNoWriteFailsBeforeTheVolumeIsFull(self):
         report, markedBytes = self.checkRun("3")
-        # Each pass overwrites the same blocks, so that all that files can fill gets the three before the volume is full.
+        # Each pass overwrites the same blocks, so that whatever files can fill gets all three.
         self.assertGreater(report["bytesCovered"], 0.99 * markedBytes)
         self.assertGreaterEqual(report["bytesWritten"], 3 * report["bytesCovered"])
