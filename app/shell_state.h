@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "volumes/item.h"
+#include "volumes/my_collection_view.h"
 
 namespace calvero {
 
@@ -20,8 +22,14 @@ struct ShellState {
   std::string selectedVolumePath;    ///< one blank; nothing else reads or writes it
   std::map<std::string, std::string> mutdictForArrayController;  ///< the row that was added last
   std::map<std::string, std::string> dictEraseOption;
+  MyCollectionView mcv;
   CurrentSelection curSel;
   std::size_t currentSelectionG = 0;  ///< the picker's index, shared by the tiles and the controller
+
+  // Part of the declared state, used by no operation.
+  std::string Facebookstring, Googleplusstring, FAQstring, CloudControlstring, Twitterstring, Helpstring, Supportstring;
+  std::string status;
+  std::vector<std::string> responseDriveFinder, finalArrayForVolumes;
 };
 
 }  // namespace calvero

@@ -35,6 +35,7 @@ void AppDelegate::init() {
   choice_.numPassSelected = 1;
   choice_.eraseMethodSelected = 0;
 
+  shell_.mcv = MyCollectionView();
   shell_.curSel = CurrentSelection();
   shell_.currentSelectionG = 0;
   authentication_ = Authentication(ports_.tagStore);

@@ -94,7 +94,7 @@ def faultsAfter(volume, kept, marked, freeBefore, allowed):
 
 
 def show(fs, method):
-    print(f"Making a {fs} volume of {asMegabytes(VOLUME_BYTES)} in an image file", flush=True)
+    print(f"Making a volume of {asMegabytes(VOLUME_BYTES)} with {fs} in an image file", flush=True)
     with Volume(fs, VOLUME_BYTES) as volume:
         os.chmod(volume.path, 0o755)
         kept, marked, before = prepare(volume)

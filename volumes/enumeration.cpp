@@ -57,6 +57,7 @@ void AppDelegate::allocateAllArrays() {
 void AppDelegate::reloadVolumes() {
   ports_.controls.removeTiles(volumes_->volumeNameArray);
   shell_.currentSelectionG = volumes_->volumeNameArray.size() - 1;  // an empty list wraps round; `init` sets it anew
+  shell_.mcv = MyCollectionView();
   init();
 }
 

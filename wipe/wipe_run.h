@@ -31,6 +31,9 @@ struct RunCounters {
   std::atomic<std::uint64_t> filesDone{0};
 };
 
+// A stop request must never wait for a lock that a stuck worker holds.
+static_assert(std::atomic<std::uint8_t>::is_always_lock_free);
+
 /// One wipe, from the moment it can be started to the end of its last thread.
 ///
 /// The controller holds the current run; each thread of a run shares its own. A stop request is written into the run

@@ -44,6 +44,8 @@ TEST_F(StartUp, GivesTheControllerItsFirstState) {
   EXPECT_EQ(shell.admin, 0);
   EXPECT_EQ(shell.currentSelectionG, 0U);
   EXPECT_EQ(shell.curSel.getCurrentSelection(), 0U);
+  EXPECT_EQ(shell.mcv.currentSelection(), 0U);
+  EXPECT_EQ(shell.mcv.previousSelection(), 0U);
   EXPECT_THAT(shell.dictEraseOption, IsEmpty());
 }
 

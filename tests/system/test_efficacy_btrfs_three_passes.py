@@ -11,3 +11,6 @@ class EfficacyOnBtrfsInThreePasses(EfficacyTest):
         # Each pass overwrites the same blocks, so that whatever files can fill gets all three.
         self.assertGreater(report["bytesCovered"], 0.99 * markedBytes)
         self.assertGreaterEqual(report["bytesWritten"], 3 * report["bytesCovered"])
+
+    def testAPlainUsersThreePassesLeaveNothingReadable(self):
+        self.checkRun("3", plainUser=True)

@@ -13,3 +13,6 @@ class EfficacyOnXfs(EfficacyTest):
 
     def testAPlainUsersRunLeavesNoMoreThanTheReserveAndTheBlocksOfRoot(self):
         self.checkRun("1", plainUser=True)
+
+    def testAPlainUsersThreePassesLeaveNoMoreThanTheReserveAndTheBlocksOfRoot(self):
+        self.checkRun("3", plainUser=True)
