@@ -6,6 +6,7 @@
 #include "platform/linux/folder_contents.h"
 #include "platform/linux/posix_error.h"
 #include "platform/linux/posix_filler_file.h"
+#include "platform/linux/process_limits.h"
 
 namespace calvero {
 
@@ -99,6 +100,7 @@ Error PosixFillerDirectory::removeItem(const std::string& path) {
   const bool takesSpace = found->isPlainFile() && (found->allocatedBytes != 0 || found->sizeBytes != 0);
   Descriptor file;
   if (takesSpace && !closed_) file = Descriptor(openIn(directory_, name, O_RDONLY | O_NONBLOCK));
+  if (file.isOpen() && isSpareDescriptor(file.get())) file = Descriptor();
 
   if (unlinkIn(directory_, name) != 0) return posixError("unlinkat", path, errno);
   if (file.isOpen()) {

@@ -11,4 +11,10 @@ void raiseOpenFileLimit() {
   ::setrlimit(RLIMIT_NOFILE, &limit);
 }
 
+bool isSpareDescriptor(int descriptor) {
+  struct rlimit limit = {};
+  if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return false;
+  return static_cast<rlim_t>(descriptor) + kSpareDescriptors >= limit.rlim_cur;
+}
+
 }  // namespace calvero

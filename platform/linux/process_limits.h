@@ -6,4 +6,11 @@ namespace calvero {
 /// written. Where that is refused the old limit stays. Call before threads are started.
 void raiseOpenFileLimit();
 
+/// Descriptors that are never used to hold space: the run still has files to write, and tables and logs to open.
+constexpr int kSpareDescriptors = 32;
+
+/// Whether `descriptor`, just opened, is one of the spare ones. Each new descriptor gets the lowest free number, so
+/// that hardly any other is left by then. Any thread.
+bool isSpareDescriptor(int descriptor);
+
 }  // namespace calvero

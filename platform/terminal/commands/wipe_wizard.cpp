@@ -20,6 +20,7 @@ std::optional<std::size_t> askForVolume(const Output& output, LineInput& input,
     const auto line = input.readLine();
     if (!line) break;
     if (const auto number = numberUpTo(volumes.size(), *line)) return *number - 1;
+    output.line("Please type a number of the list.");
   }
   output.line("");
   return std::nullopt;
@@ -35,6 +36,7 @@ std::optional<std::int32_t> askForMethod(const Output& output, LineInput& input)
     const std::string typed = withSingleBlanks(*line);
     if (typed.empty()) return kDefaultMethod;
     if (const auto method = methodNamed(typed)) return method;
+    output.line("Please type a number or a word of the list.");
   }
   output.line("");
   return std::nullopt;
