@@ -161,7 +161,7 @@ TEST_F(FillerDirectoryFiles, CountsTheSpaceOfALeftDirectoryThatNoRunHolds) {
   EXPECT_EQ(PosixFiles::bytesInLeftDirectory(volume_, directory_), 0U) << "it is a link";
 }
 
-/// The soft limit of open files, lowered so that only `more` further ones can be opened.
+/// The soft limit of open files, lowered so that only `more` further ones and `spare` others can be opened.
 class ScopedOpenFileLimit {
  public:
   explicit ScopedOpenFileLimit(std::size_t more, rlim_t spare = 0) {
