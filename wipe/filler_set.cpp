@@ -40,8 +40,11 @@ void AppDelegate::makeFillerDirectory(WipeRun& run, const std::string& volumePat
   Error error;
   std::shared_ptr<FillerDirectory> directory =
       ports_.files.createFillerDirectory(volumePath, fillerDirectoryPath(volumePath), error);
-  if (error.failed()) ports_.log.notice(error.text());
-  if (!directory) return;
+  if (!directory) {
+    ports_.log.line(error.text());
+    run.noteRefusal(error);
+    return;
+  }
   run.setDirectory(directory);
   // A cancel that came while the directory was being made has found none to remove.
   if (run.stopRequested()) directory->remove();

@@ -25,6 +25,16 @@ void WipeRun::setDirectory(std::shared_ptr<FillerDirectory> directory) {
   directory_.swap(directory);
 }
 
+void WipeRun::noteRefusal(const Error& refusal) {
+  const std::scoped_lock lock(mutex_);
+  refusal_ = refusal;
+}
+
+Error WipeRun::refusal() const {
+  const std::scoped_lock lock(mutex_);
+  return refusal_;
+}
+
 void WipeRun::noteFault(const Error& fault) {
   const std::scoped_lock lock(mutex_);
   if (faults_++ == 0) firstFault_ = fault;

@@ -71,6 +71,11 @@ struct WipeRun {
   [[nodiscard]] std::shared_ptr<FillerDirectory> directory() const;
   void setDirectory(std::shared_ptr<FillerDirectory> directory);
 
+  /// Why the filler directory could not be made, although it could when the volume was chosen: another run may have
+  /// come first. Then nothing was created, and the first file is found missing. Any thread.
+  void noteRefusal(const Error& refusal);
+  [[nodiscard]] Error refusal() const;
+
   /// Remembers the first write, flush or removal that failed for another reason than a full volume. A run with a fault
   /// may have left data readable, whatever its outcome. Any thread.
   void noteFault(const Error& fault);
@@ -80,6 +85,7 @@ struct WipeRun {
  private:
   mutable std::mutex mutex_;  // guards the members below; never held across a call to the outside
   std::shared_ptr<FillerDirectory> directory_;
+  Error refusal_;
   Error firstFault_;
   std::uint64_t faults_ = 0;
 };

@@ -19,6 +19,14 @@ class TwoRuns(SystemTest):
                 self.assertNothingLeft(target)
                 self.assertFreeAgain(target, freeBefore)
 
+    def testOfTwoRunsStartedAtTheSameMomentOneIsRefused(self):
+        target = self.makeVolume("ext4", 160)
+        runs = [self.startWipe(target), self.startWipe(target)]
+        ended = sorted((self.finish(run) for run in runs), key=lambda result: result[0])
+        self.assertEqual([code for code, _, _ in ended], [program.EXIT_FINISHED, program.EXIT_REFUSED], ended)
+        self.assertOneLine(ended[1][2], "another", "wip")
+        self.assertNothingLeft(target)
+
     def testTwoVolumesAreWipedAtTheSameTime(self):
         first, second = self.makeVolume("ext4", 160), self.makeVolume("xfs", 320)
         self.assertGreater(second.freeBytes(), FILLER_BYTES)

@@ -169,6 +169,7 @@ TEST_F(FillerSet, GoesOnWithoutAReportWhenTheDirectoryCannotBeMade) {
   EXPECT_THAT(world.journal.only({"alert"}), IsEmpty());
   EXPECT_EQ(world.loop.terminations(), 0);
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+  EXPECT_EQ(run->refusal().code, ErrorCode::notPermitted);
 }
 
 TEST_F(FillerSet, GoesOnWithoutAReportWhenAFileCannotBeMade) {

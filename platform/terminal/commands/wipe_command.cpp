@@ -105,6 +105,7 @@ class WipeCommand {
     const std::string failure = failureLine(report_, isMounted);
     if (!failure.empty()) printError(failure);
     if (report_.exitCode == ExitCode::cancelled) printError(closingLine(report_));
+    if (report_.exitCode == ExitCode::refused) printError(refusalLine(report_, report_.refusal));
     if (report_.outcome == RunOutcome::finished && !request_.json) Output(STDOUT_FILENO).line(closingLine(report_));
     printJson();
   }

@@ -17,7 +17,7 @@ std::string outcomeWord(const WipeReport& report) {
     case RunOutcome::finished:
       return "finished";
     case RunOutcome::failed:
-      return "failed";
+      return report.exitCode == ExitCode::refused ? "refused" : "failed";
     case RunOutcome::cancelled:
       return "cancelled";
     case RunOutcome::none:
@@ -61,9 +61,11 @@ void addRun(WipeReport& report, const WipeRun* run) {
     report.bytesWritten = run->counters.bytesWritten;
     report.faults = run->faults();
     report.firstFault = run->firstFault();
+    report.refusal = run->refusal();
     report.outcome = run->outcome;
   }
   report.exitCode = exitCodeOf(report.outcome, report.faults);
+  if (report.exitCode == ExitCode::failed && report.refusal.failed()) report.exitCode = ExitCode::refused;
 }
 
 std::string reportJson(const WipeReport& report) {

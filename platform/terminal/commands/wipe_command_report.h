@@ -22,6 +22,7 @@ struct WipeReport {
   double seconds = 0;
   std::uint64_t faults = 0;
   Error firstFault;
+  Error refusal;  ///< why the run could not make its filler directory
   RunOutcome outcome = RunOutcome::none;
   ExitCode exitCode = ExitCode::refused;
 };
