@@ -7,17 +7,13 @@
 #include "ports/pop_up_window.h"
 #include "ports/system_log.h"
 #include "wipe/filler_names.h"
+#include "wipe/lost_volume.h"
 
 namespace calvero {
 namespace {
 
 constexpr Colour kGreen{0.0, 1.0, 0.0, 1.0};
 constexpr std::chrono::seconds kTimeToReadTheMessage{7};
-
-/// A removal that fails this way means that the volume is lost; other failures leave the run as it is.
-bool meansLostVolume(ErrorCode code) {
-  return code == ErrorCode::readOnly || code == ErrorCode::gone;
-}
 
 std::string withVolumeName(std::string format, const std::string& name) {
   const std::string placeholder = "%@";

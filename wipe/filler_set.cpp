@@ -5,6 +5,7 @@
 #include "ports/files.h"
 #include "ports/system_log.h"
 #include "wipe/filler_names.h"
+#include "wipe/lost_volume.h"
 
 namespace calvero {
 
@@ -42,7 +43,12 @@ void AppDelegate::makeFillerDirectory(WipeRun& run, const std::string& volumePat
       ports_.files.createFillerDirectory(volumePath, fillerDirectoryPath(volumePath), error);
   if (!directory) {
     ports_.log.line(error.text());
-    run.noteRefusal(error);
+    // It could be made when the volume was chosen, so a lost volume was lost under the run.
+    if (meansLostVolume(error.code)) {
+      run.noteFault(error);
+    } else {
+      run.noteRefusal(error);
+    }
     return;
   }
   run.setDirectory(directory);

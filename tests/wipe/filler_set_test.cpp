@@ -172,6 +172,14 @@ TEST_F(FillerSet, GoesOnWithoutAReportWhenTheDirectoryCannotBeMade) {
   EXPECT_EQ(run->refusal().code, ErrorCode::notPermitted);
 }
 
+TEST_F(FillerSet, TakesAVolumeThatTurnedReadOnlySinceItWasChosenAsAFaultAndNotAsARefusal) {
+  world.volume("DATA", 200'000'000);
+  world.files.script.failAt(FileCall::createDirectory, 1, ErrorCode::readOnly);
+  layOut();
+  EXPECT_EQ(run->firstFault().code, ErrorCode::readOnly);
+  EXPECT_FALSE(run->refusal().failed());
+}
+
 TEST_F(FillerSet, GoesOnWithoutAReportWhenAFileCannotBeMade) {
   world.volume("DATA", 300'000'000);
   world.files.script.failAt(FileCall::createFile, 2, ErrorCode::full);
