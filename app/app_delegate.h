@@ -35,10 +35,12 @@ class AppDelegate {
   AppDelegate(const AppDelegate&) = delete;
   AppDelegate& operator=(const AppDelegate&) = delete;
 
-  // --- Start-up: app/start_up.cpp ---
+  // --- Start-up: app/start_up.cpp, app/window_set_up.cpp ---
 
   /// Gives all state its first values, reads the remote order and lists the volumes. Called again by every reload.
   void init();
+  /// Gives every caption and button its text, once, when the window's contents are there.
+  void awakeFromNib();
   /// Launch completion: registers the observers, resets the wizard, prepares the pattern buffers, describes the
   /// selected volume, and starts an ordered wipe.
   void applicationDidFinishLaunching();
@@ -53,6 +55,35 @@ class AppDelegate {
   void back();
   /// The progress page's figures, just before a run.
   void setIBObjectsBeforeWipe();
+  /// Hands over to the suite's home application and ends this one.
+  void goToHome();
+
+  // --- The window: app/window_events.cpp, app/completion_window.cpp, app/pop_up.cpp ---
+
+  /// Whether the main window may close, which ends the application; refused with an alert during a run.
+  bool windowShouldClose();
+  void windowWillClose();
+  void windowWillMiniaturize();
+  void windowDidDeminiaturize();
+  /// Pins the completion window onto the main window once the volume was found gone; else returns to the first page.
+  void positionHUDWindow();
+  /// Shows a message in a box of that colour near the corner of the screen. On the event loop thread it closes by
+  /// itself; otherwise the caller ends the application. Any thread.
+  void popUp(const Colour& colour, const std::string& text);
+  void popUpClose();
+  void allPopupsVisibilty();  ///< closes the pop-up unless the pointer rests on it
+  void mouseEntered();
+  void mouseExited();
+
+  // --- Links: app/links.cpp ---
+
+  void openFacebookPage();
+  void openTwitterPage();
+  void openGooglePlusPage();
+  void openHelpPage();
+  /// Opens the portal's page for this user and device.
+  void cloudControl();
+  void getItNow();
 
   // --- Methods: methods/method_selection.cpp, methods/pattern_buffers.cpp ---
 
@@ -79,7 +110,7 @@ class AppDelegate {
   const std::uint8_t* fillBuffer(const std::uint8_t* current, std::int32_t size, std::int32_t method,
                                  std::int32_t numPass) const;
 
-  // --- Volumes: volumes/enumeration.cpp, volumes/selected_volume.cpp ---
+  // --- Volumes: volumes/enumeration.cpp, volumes/selected_volume.cpp, volumes/my_collection_view.cpp ---
 
   void loadVolumes();
   /// A new empty list of filler files; no volume array is touched.
@@ -99,6 +130,8 @@ class AppDelegate {
   /// Whether the selected volume can be wiped now: mounted, writable, its filler directory ours to make and not in use
   /// by another run. Creates and changes nothing. For a face to ask before it starts anything.
   Error checkSelectedVolume();
+  /// The tiles that the volume page shows.
+  MyCollectionView& collectionView() { return collectionView_; }
   void tableViewSelectionDidChange();
   void collectionViewDidChangeSelection();
   /// Selects a volume by its index and describes it.
@@ -118,7 +151,7 @@ class AppDelegate {
   void fillFilePath(WipeRun& run, const std::string& path, std::uint64_t size);
   void deleteByFiles(WipeRun& run, std::uint64_t index);
   /// Gives back all space and removes the filler directory; ends a finished remote run. Worker thread at the end of a
-  /// run, event loop thread on a cancel.
+  /// run, a thread of its own on a cancel.
   void deleteFiles(WipeRun& run);
 
   // Bodies of the run's other threads.
@@ -139,8 +172,6 @@ class AppDelegate {
   void myCloud();
   void checkForTermination();
   void cancelProcess();
-  /// Any thread.
-  void popUp(const Colour& colour, const std::string& text);
 
   // --- Looking in ---
 
@@ -152,11 +183,16 @@ class AppDelegate {
   [[nodiscard]] const VolumeTable& volumes() const { return *volumes_; }
   [[nodiscard]] const MethodChoice& methodChoice() const { return choice_; }
   [[nodiscard]] const ShellState& shell() const { return shell_; }
+  [[nodiscard]] const PopUpState& popUpState() const { return popUp_; }
   [[nodiscard]] const RemoteOrder& order() const { return order_; }
   [[nodiscard]] std::size_t selectedTableRow() const { return selectedTableRow_; }
   NotificationCentre& notifications() { return notifications_; }
 
  private:
+  enum class PopUpCloses { byItself, withTheApplication };
+
+  void showPopUp(const Colour& colour, const std::string& text, PopUpCloses closes);
+  void schedulePopUpCheck();
   void readRemoteOrder();
   void appendVolume(VolumeTable& table, const MountedVolume& volume);
   void selectMethod(std::int32_t number);
@@ -174,6 +210,8 @@ class AppDelegate {
   void removeFillerDirectory(WipeRun& run, const std::string& volumePath);
   void reportRemoteCompletion(WipeRun& run);
   void setPhase(WipeRun& run, const std::string& key);
+  /// Removes the filler files on a thread of its own, while events are served.
+  void removeFilesAside(const RunPtr& run);
   void returnToFirstPageAfterCancel();
   void endCancelledRemoteRun();
 
@@ -190,8 +228,10 @@ class AppDelegate {
 
   Ports ports_;
   ShellState shell_;
+  PopUpState popUp_;
   NotificationCentre notifications_;
   Authentication authentication_;
+  MyCollectionView collectionView_;
   RemoteOrder order_;
   MethodChoice choice_;
   PatternBuffers buffers_;
@@ -199,6 +239,7 @@ class AppDelegate {
   std::size_t selectedTableRow_ = 0;
   RunPtr run_;
   std::vector<std::weak_ptr<WipeRun>> earlierRuns_;  ///< those whose threads may still be on their way out
+  bool cancelWaits_ = false;
 };
 
 }  // namespace calvero

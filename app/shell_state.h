@@ -6,10 +6,19 @@
 #include <string>
 #include <vector>
 
+#include "ports/event_loop.h"
+#include "ports/pop_up_window.h"
 #include "volumes/item.h"
 #include "volumes/my_collection_view.h"
 
 namespace calvero {
+
+/// What is remembered of the pop-up. Event loop thread.
+struct PopUpState {
+  TimerId timerForPopUp = kNoTimer;  ///< the pending close check
+  TrackingAreaId trackingArea = 0;   ///< the one that was added last
+  std::uint8_t mouseHoverForPopUp = 0;
+};
 
 /// What the application shell remembers. Event loop thread.
 struct ShellState {

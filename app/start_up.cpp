@@ -11,7 +11,8 @@ namespace calvero {
 
 AppDelegate::AppDelegate(const Ports& ports)
     : ports_(ports),
-      authentication_(ports.tagStore),
+      authentication_(ports.tagStore, ports.suiteWeb),
+      collectionView_(ports.controls, notifications_, shell_.currentSelectionG),
       run_(std::make_shared<WipeRun>(ports.eventLoop, ports.controls, ports.alerts)) {
   init();
 }
@@ -20,6 +21,7 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::init() {
   ports_.log.line("init");
+  ports_.controls.clearVolumes();
   auto table = std::make_shared<VolumeTable>();
   shell_.createFilePath = "test";
   shell_.mutdictForArrayController.clear();
@@ -38,7 +40,7 @@ void AppDelegate::init() {
   shell_.mcv = MyCollectionView();
   shell_.curSel = CurrentSelection();
   shell_.currentSelectionG = 0;
-  authentication_ = Authentication(ports_.tagStore);
+  authentication_ = Authentication(ports_.tagStore, ports_.suiteWeb);
   readRemoteOrder();
   loadVolumes();
 }

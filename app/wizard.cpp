@@ -1,10 +1,18 @@
 #include "app/app_delegate.h"
+#include "app/home_path.h"
 #include "methods/method_catalogue.h"
 #include "ports/alerts.h"
 #include "ports/controls.h"
+#include "ports/event_loop.h"
 #include "ports/mounted_volumes.h"
+#include "ports/workspace.h"
 
 namespace calvero {
+namespace {
+
+constexpr const char* kHomeApplication = "com.PelmarSoftware.PelmarMacCleaner";
+
+}  // namespace
 
 void AppDelegate::next() {
   const auto path = getVolumePath(volumes_->volumeNameArray.at(selectedTableRow_));
@@ -56,6 +64,12 @@ void AppDelegate::setIBObjectsBeforeWipe() {
   controls.setText(Control::tfElapsedData, " ");
   controls.setText(Control::tfElapsedTime, "00:00:00");
   controls.setText(Control::tfElapsedData, "0.00 KB");
+}
+
+void AppDelegate::goToHome() {
+  ports_.workspace.launchApplication(homeApplicationPath(ports_.workspace.bundlePath()));
+  ports_.workspace.bringToFront(kHomeApplication);
+  ports_.eventLoop.terminate();
 }
 
 }  // namespace calvero

@@ -7,15 +7,18 @@
 #include "ports/controls.h"
 #include "ports/disk_lookup.h"
 #include "ports/event_loop.h"
+#include "ports/information_file.h"
 #include "ports/localisation.h"
 #include "ports/mounted_volumes.h"
 #include "ports/pop_up_window.h"
 #include "ports/ports.h"
 #include "ports/random_source.h"
+#include "ports/suite_web.h"
 #include "ports/system_log.h"
 #include "ports/system_notifications.h"
 #include "ports/tag_store.h"
 #include "ports/threads.h"
+#include "ports/workspace.h"
 
 namespace calvero::bench {
 
@@ -33,19 +36,23 @@ class QuietPorts final : public Alerts,
                          public Controls,
                          public DiskLookup,
                          public EventLoop,
+                         public InformationFile,
                          public Localisation,
                          public MountedVolumes,
                          public PopUpWindow,
                          public RandomSource,
+                         public SuiteWeb,
                          public SystemLog,
                          public SystemNotifications,
                          public TagStore,
-                         public Threads {
+                         public Threads,
+                         public Workspace {
  public:
   explicit QuietPorts(MountedVolume volume) : volume_(std::move(volume)) {}
 
   Ports with(Files& files) {
-    return {*this, *this, *this, *this, *this, files, *this, *this, *this, *this, *this, *this, *this, *this};
+    return {*this, *this, *this, *this, *this, files, *this, *this, *this,
+            *this, *this, *this, *this, *this, *this, *this, *this};
   }
 
   AlertAnswer runModal(const Alert& /*alert*/) override { return AlertAnswer::defaultButton; }
@@ -54,6 +61,8 @@ class QuietPorts final : public Alerts,
   void sleep(Duration /*duration*/) override {}
 
   void setText(Control /*control*/, const std::string& /*text*/) override {}
+  void setAttributedTitle(Control /*button*/, const AttributedTitle& /*title*/) override {}
+  void highlightNothing(Control /*button*/) override {}
   void show(Control /*control*/) override {}
   void hide(Control /*control*/) override {}
   void turnOn(Control /*button*/) override {}
@@ -63,7 +72,12 @@ class QuietPorts final : public Alerts,
   void reloadTable() override {}
   [[nodiscard]] std::size_t selectedRow() const override { return 0; }
   void addTableRow(const std::string& /*driveName*/) override {}
+  void clearVolumes() override {}
+  void addTile(const MountedVolume& /*volume*/) override {}
   void removeTiles(const std::vector<std::string>& /*objects*/) override {}
+  [[nodiscard]] std::size_t tileCount() const override { return 0; }
+  void setTileSelection(const std::vector<std::size_t>& /*indexes*/) override {}
+  void setTileSelected(std::size_t /*index*/, bool /*selected*/) override {}
   void setProgress(int /*percent*/) override {}
   void setProgressDeterminate() override {}
   void setProgressIndeterminate() override {}
@@ -71,7 +85,11 @@ class QuietPorts final : public Alerts,
   [[nodiscard]] bool mainWindowVisible() const override { return false; }
   void bringToFront(Control /*window*/) override {}
   void orderOut(Control /*window*/) override {}
+  void activateApplication() override {}
   void leaveTaskBar() override {}
+  void moveToOriginOf(Control /*child*/, Control /*parent*/) override {}
+  void attachAbove(Control /*child*/, Control /*parent*/) override {}
+  void makeImmovable(Control /*window*/) override {}
 
   std::optional<std::string> mountPath(const std::string& /*name*/) override { return volume_.mountPath; }
 
@@ -82,6 +100,7 @@ class QuietPorts final : public Alerts,
     return 1;
   }
   void stopTimer(TimerId /*timer*/) override {}
+  bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds /*limit*/) override { return done(); }
   void terminate() override {}
 
   [[nodiscard]] std::string localised(const std::string& key) const override { return key; }
@@ -89,7 +108,28 @@ class QuietPorts final : public Alerts,
   std::vector<MountedVolume> mountedVolumes() override { return {volume_}; }
   std::optional<bool> isReadOnly(const std::string& /*mountPath*/) override { return false; }
 
-  void show(const Colour& /*colour*/, const std::string& /*text*/) override {}
+  void setText(const std::string& /*text*/) override {}
+  void setFillColour(const Colour& /*colour*/) override {}
+  void setStatusWindowLevel() override {}
+  void setBorderless() override {}
+  TrackingAreaId addTrackingArea(std::function<void()> /*entered*/, std::function<void()> /*exited*/) override {
+    return 1;
+  }
+  void setAlertAnimation() override {}
+  [[nodiscard]] ScreenSize screenSize() const override { return {}; }
+  [[nodiscard]] ScreenSize size() const override { return {}; }
+  void moveTo(const ScreenPoint& /*origin*/) override {}
+  void bringToFront() override {}
+  void orderOut() override {}
+
+  void openAddress(const std::string& /*address*/) override {}
+  void launchApplication(const std::string& /*path*/) override {}
+  void bringToFront(const std::string& /*identifier*/) override {}
+  [[nodiscard]] std::string bundlePath() const override { return ""; }
+  [[nodiscard]] std::string applicationSupportFolder() const override { return ""; }
+  void openPage(std::int32_t /*index*/) override {}
+  [[nodiscard]] std::string portalLoginAddress() const override { return ""; }
+  std::map<std::string, std::string> read(const std::string& /*path*/) override { return {}; }
 
   std::uint32_t next() override { return word_ = word_ * 1664525U + 1013904223U; }
 

@@ -4,11 +4,15 @@
 #include <string>
 #include <vector>
 
+#include "ports/colour.h"
+#include "ports/mounted_volumes.h"
+
 namespace calvero {
 
 /// The on-screen controls, under the names that the window's layout gives them.
 enum class Control {
-  // The wizard's pages and buttons.
+  // The wizard's pages and buttons. `proceedBtn` and `cancelBut` carry the titles of `buttonProceed` and
+  // `buttonCancel`; a cancel hides the first, and showing its `buttonProceed` again brings it back.
   tabView,
   tableview,
   buttonNext,
@@ -17,12 +21,20 @@ enum class Control {
   buttonProceed,
   buttonCancel,
   proceedBtn,
+  cancelBut,
+  reloadDrivers,
   // The selected volume's description.
+  boxSelVolDesc,
   volLabel,
   tfDriveName,
   tfFileSystem,
   tfDriveSpace,
   tfFreeSpace,
+  clickNext,
+  driveName,
+  fileSystem,
+  driveSpace,
+  freeSpace,
   // The method page.
   butFastZeroWipe,
   butRandomWipe,
@@ -46,6 +58,8 @@ enum class Control {
   low,
   medium,
   high,
+  highly_secured,
+  unSecuredData,
   tfUnsecuredData,
   tfCleanedSize,
   // The progress page.
@@ -54,12 +68,36 @@ enum class Control {
   tfElapsedTime,
   tfElapsedData,
   tfFreespaceData,
-  // The picker's models.
+  erasingfreeSpaceData,
+  tfelapsedTime,
+  tfelapsedData,
+  tffreeSpace,
+  // The side bar.
+  buttonCloud,
+  cloud_img_1,
+  CloudControl,
+  Settings,
+  Help,
+  ondrelMore,
+  // The picker: the tiles' view, and the models of the tiles and of the table.
+  collectionView,
   arrayController,
   arraycontroller2,
-  // Windows.
+  // Windows, and the pop-up's contents.
   window,
   windowCompleted,
+  popUpWindow,
+  popUpBox,
+  popUpText,
+};
+
+/// A button title with a look of its own, centred.
+struct AttributedTitle {
+  std::string text;
+  Colour colour;
+  double points = 0.0;  ///< size of the system font
+
+  bool operator==(const AttributedTitle&) const = default;
 };
 
 /// The wizard's pages, by their index in `tabView`.
@@ -73,6 +111,9 @@ class Controls {
 
   /// A caption's or text field's text, or a button's title.
   virtual void setText(Control control, const std::string& text) = 0;
+  virtual void setAttributedTitle(Control button, const AttributedTitle& title) = 0;
+  /// The button looks the same while it is pressed.
+  virtual void highlightNothing(Control button) = 0;
   virtual void show(Control control) = 0;
   virtual void hide(Control control) = 0;
   /// State of a selection button.
@@ -87,8 +128,18 @@ class Controls {
   [[nodiscard]] virtual std::size_t selectedRow() const = 0;
   /// Adds a row to the table of names, under the column "Drives".
   virtual void addTableRow(const std::string& driveName) = 0;
+  /// A new list of volumes begins: table and tiles are emptied.
+  virtual void clearVolumes() = 0;
+  /// Adds a tile that shows the volume's name.
+  virtual void addTile(const MountedVolume& volume) = 0;
   /// Asks the tiles' model to remove these objects; those it does not hold are ignored.
   virtual void removeTiles(const std::vector<std::string>& objects) = 0;
+  [[nodiscard]] virtual std::size_t tileCount() const = 0;
+  /// What the tiles' view itself does with a new selection (ascending indexes): keyboard focus and the like. Which
+  /// tile is drawn as selected is decided by `setTileSelected` alone.
+  virtual void setTileSelection(const std::vector<std::size_t>& indexes) = 0;
+  /// Draws the tile as selected or plain. An index beyond the tiles is ignored.
+  virtual void setTileSelected(std::size_t index, bool selected) = 0;
 
   /// `piDataWipe`: percent from 0 to 100.
   virtual void setProgress(int percent) = 0;
@@ -102,8 +153,18 @@ class Controls {
   virtual void bringToFront(Control window) = 0;
   /// Takes a window off the screen.
   virtual void orderOut(Control window) = 0;
+  /// Brings the application in front of the others.
+  virtual void activateApplication() = 0;
   /// Hidden mode: no entry in the task bar from now on.
   virtual void leaveTaskBar() = 0;
+
+  /// Moves `child`'s lower left corner onto `parent`'s; its size is kept. Where the display system places windows
+  /// itself, its place is accepted.
+  virtual void moveToOriginOf(Control child, Control parent) = 0;
+  /// From now on `child` stays above `parent` and moves with it.
+  virtual void attachAbove(Control child, Control parent) = 0;
+  /// The user cannot move the window any more.
+  virtual void makeImmovable(Control window) = 0;
 };
 
 }  // namespace calvero

@@ -29,6 +29,11 @@ class EventLoop {
   /// Stops a timer; an unknown or ended one is ignored. Event loop thread.
   virtual void stopTimer(TimerId timer) = 0;
 
+  /// Serves events until `done` says so, asked after each event; until `limit` has passed; or until the application
+  /// ends. Returns the last answer of `done`. Whoever makes `done` true posts something afterwards. Event loop thread;
+  /// may be nested.
+  virtual bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) = 0;
+
   /// Asks the application to end. Any thread; returns at once, and the caller must not go on with its work.
   virtual void terminate() = 0;
 };

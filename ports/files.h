@@ -72,6 +72,9 @@ class FillerDirectory {
   /// Gives back the space of every removed file. Blocks while the file system frees it.
   virtual void releaseSpace() = 0;
 
+  /// Grows while `releaseSpace` and `remove` get on: what tells a large clean-up from a volume that does not answer.
+  virtual std::uint64_t cleanUpSteps() const = 0;
+
   /// Removes the directory with everything in it. Never follows a link, never leaves the volume. A second call, or
   /// one while another thread is in it, does no harm. `notFound` when the directory is already gone.
   virtual Error remove() = 0;

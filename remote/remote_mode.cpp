@@ -3,7 +3,7 @@
 #include "app/app_delegate.h"
 #include "ports/controls.h"
 #include "ports/event_loop.h"
-#include "ports/pop_up_window.h"
+#include "ports/suite_web.h"
 #include "ports/tag_store.h"
 
 namespace calvero {
@@ -14,6 +14,10 @@ std::optional<std::string> Authentication::GetValueForTag(const std::string& tag
 
 void Authentication::SetValueForTag(const std::string& tag, const std::string& value) {
   store_->setValue(tag, value);
+}
+
+void Authentication::ondrelSoftwareWeb(std::int32_t page) {
+  web_->openPage(page);
 }
 
 void AppDelegate::readRemoteOrder() {
@@ -47,10 +51,6 @@ void AppDelegate::checkForTermination() {
 void AppDelegate::cancelProcess() {
   order_.cloudTerm = 1;
   cancelWipe();
-}
-
-void AppDelegate::popUp(const Colour& colour, const std::string& text) {
-  ports_.popUpWindow.show(colour, text);
 }
 
 }  // namespace calvero

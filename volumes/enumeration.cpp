@@ -47,6 +47,7 @@ void AppDelegate::appendVolume(VolumeTable& table, const MountedVolume& volume) 
   ports_.controls.addTableRow(volume.name);
   table.volumeNameArray.push_back(volume.name);
   table.items.emplace_back(volume.name);
+  ports_.controls.addTile(volume);
   ports_.controls.setText(Control::volLabel, volume.name);
 }
 

@@ -1,17 +1,29 @@
 #include <chrono>
+#include <exception>
 
 #include "app/app_delegate.h"
 #include "ports/alerts.h"
 #include "ports/clock.h"
 #include "ports/controls.h"
 #include "ports/event_loop.h"
-#include "ports/pop_up_window.h"
+#include "ports/files.h"
+#include "ports/system_log.h"
+#include "ports/threads.h"
 
 namespace calvero {
 namespace {
 
 constexpr Colour kOrange{1.0, 119.0 / 255.0, 52.0 / 255.0, 1.0};
 constexpr std::chrono::seconds kTimeToReadTheMessage{3};
+
+/// How long a cancel waits without seeing the clean-up get on. A medium that hangs may never answer, and must not hold
+/// up the window.
+constexpr std::chrono::seconds kTimeForASignOfLife{8};
+
+std::uint64_t cleanUpSteps(const WipeRun& run) {
+  const auto directory = run.directory();
+  return directory ? directory->cleanUpSteps() : 0;
+}
 
 }  // namespace
 
@@ -25,7 +37,8 @@ void AppDelegate::cancelWipe() {
   controls.hide(Control::proceedBtn);
   controls.setText(Control::labelPhase, localised("Please wait, finishing current process.."));
   controls.setProgressIndeterminate();
-  deleteFiles(*run);
+  if (cancelWaits_) return;  // one is under way already and goes on for both
+  removeFilesAside(run);
   if (run->applicationEnding != 0) return;
   if (order_.cloudInitiation != 0) {
     endCancelledRemoteRun();
@@ -34,6 +47,29 @@ void AppDelegate::cancelWipe() {
   } else {
     returnToFirstPageAfterCancel();
   }
+}
+
+void AppDelegate::removeFilesAside(const RunPtr& run) {
+  if (!run->volume.table) run->volume = selection();  // a cancel without a run: what an earlier one left is removed
+  const auto removed = std::make_shared<std::atomic<bool>>(false);
+  ports_.threads.detach("calvero-cancel", [this, run, removed] {
+    try {
+      deleteFiles(*run);
+    } catch (const std::exception& error) {
+      ports_.log.line(std::string("cancel: ") + error.what());
+    }
+    *removed = true;
+    ports_.eventLoop.post([] {});
+  });
+  cancelWaits_ = true;
+  bool isRemoved = false;
+  std::uint64_t steps = 0;
+  do {
+    steps = cleanUpSteps(*run);
+    isRemoved = ports_.eventLoop.serveUntil([removed] { return removed->load(); }, kTimeForASignOfLife);
+  } while (!isRemoved && cleanUpSteps(*run) != steps);
+  cancelWaits_ = false;
+  if (!isRemoved) ports_.log.notice("the volume does not answer; the filler files are removed as soon as it does");
 }
 
 void AppDelegate::returnToFirstPageAfterCancel() {

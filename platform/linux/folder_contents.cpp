@@ -16,31 +16,37 @@ constexpr int kMaxDepth = 64;
 /// a new name for each removal: many passes may be needed, and they may never end.
 constexpr int kMaxPasses = 64;
 
-Error emptyFolderAtDepth(const OpenFolder& folder, const std::string& path, int depth);
+/// The tree that is being removed.
+struct Removal {
+  std::atomic<std::uint64_t>& steps;
+  int depth = 0;
+};
+
+Error emptyFolderAtDepth(const OpenFolder& folder, const std::string& path, Removal removal);
 
 int removeAt(int folder, const char* name, int flags) {
   return retryInterrupted([&] { return ::unlinkat(folder, name, flags); });
 }
 
-Error removeSubfolder(const OpenFolder& parent, const char* name, const std::string& path, int depth) {
-  if (depth == kMaxDepth) return {ErrorCode::other, "unlinkat", path, "the folders are nested too deeply"};
+Error removeSubfolder(const OpenFolder& parent, const char* name, const std::string& path, Removal removal) {
+  if (removal.depth == kMaxDepth) return {ErrorCode::other, "unlinkat", path, "the folders are nested too deeply"};
   Error error;
   const OpenFolder folder = openSubfolder(parent, name, path, error);
   if (!folder.isOpen()) return error;
-  error = emptyFolderAtDepth(folder, path, depth + 1);
+  error = emptyFolderAtDepth(folder, path, {removal.steps, removal.depth + 1});
   if (error.failed()) return error;
   return removeAt(parent.get(), name, AT_REMOVEDIR) == 0 ? Error{} : posixError("unlinkat", path, errno);
 }
 
-Error removeEntry(const OpenFolder& folder, const dirent& entry, const std::string& path, int depth) {
+Error removeEntry(const OpenFolder& folder, const dirent& entry, const std::string& path, Removal removal) {
   if (entry.d_type != DT_DIR) {
     if (removeAt(folder.get(), entry.d_name, 0) == 0 || errno == ENOENT) return {};
     if (errno != EISDIR) return posixError("unlinkat", path + '/' + entry.d_name, errno);
   }
-  return removeSubfolder(folder, entry.d_name, path + '/' + entry.d_name, depth);
+  return removeSubfolder(folder, entry.d_name, path + '/' + entry.d_name, removal);
 }
 
-Error emptyFolderAtDepth(const OpenFolder& folder, const std::string& path, int depth) {
+Error emptyFolderAtDepth(const OpenFolder& folder, const std::string& path, Removal removal) {
   Error firstFailure;
   bool removedAny = true;
   for (int pass = 0; pass < kMaxPasses && removedAny; ++pass) {
@@ -48,9 +54,10 @@ Error emptyFolderAtDepth(const OpenFolder& folder, const std::string& path, int 
     removedAny = false;
     FolderReader reader(folder.get());
     while (const dirent* entry = reader.next()) {
-      Error failure = removeEntry(folder, *entry, path, depth);
+      Error failure = removeEntry(folder, *entry, path, removal);
       if (!failure.failed()) {
         removedAny = true;
+        ++removal.steps;
       } else if (!firstFailure.failed()) {
         firstFailure = std::move(failure);
       }
@@ -77,8 +84,8 @@ Error checkLeftFolder(const OpenFolder& parent, const char* name, const std::str
 
 }  // namespace
 
-Error emptyFolder(const OpenFolder& folder, const std::string& path) {
-  return emptyFolderAtDepth(folder, path, 0);
+Error emptyFolder(const OpenFolder& folder, const std::string& path, std::atomic<std::uint64_t>& steps) {
+  return emptyFolderAtDepth(folder, path, {steps});
 }
 
 Error checkLeftContents(const OpenFolder& folder, const std::string& path) {

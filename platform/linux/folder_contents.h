@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <string>
 
@@ -10,8 +11,8 @@ namespace calvero {
 
 /// Removes everything in `folder`, folders with their contents included. No link is followed, and a folder that leads
 /// to another mount is left. What cannot be removed does not keep the rest from being removed; the first failure of
-/// the last pass is returned. `path` is for reports only.
-Error emptyFolder(const OpenFolder& folder, const std::string& path);
+/// the last pass is returned. `path` is for reports only; `steps` counts what was removed.
+Error emptyFolder(const OpenFolder& folder, const std::string& path, std::atomic<std::uint64_t>& steps);
 
 /// Fails with `notOurs` when the folder holds a folder that is not empty: no run makes one. Changes nothing.
 Error checkLeftContents(const OpenFolder& folder, const std::string& path);

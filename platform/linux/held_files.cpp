@@ -8,17 +8,33 @@ void HeldFiles::keep(Descriptor file) {
   if (!closed_) files_.push_back(std::move(file));
 }
 
-void HeldFiles::release() {
-  std::vector<Descriptor> released;  // outlives the lock, so that the closing happens without it
-  const std::lock_guard lock(mutex_);
-  released.swap(files_);
+namespace {
+
+// Called without the mutex.
+void closeAll(std::vector<Descriptor> files, std::atomic<std::uint64_t>& steps) {
+  for (Descriptor& file : files) {
+    file = Descriptor();
+    ++steps;
+  }
 }
 
-void HeldFiles::releaseForGood() {
+}  // namespace
+
+void HeldFiles::release(std::atomic<std::uint64_t>& steps) {
   std::vector<Descriptor> released;
-  const std::lock_guard lock(mutex_);
-  closed_ = true;
-  released.swap(files_);
+  {
+    const std::lock_guard lock(mutex_);
+    released.swap(files_);
+  }
+  closeAll(std::move(released), steps);
+}
+
+void HeldFiles::releaseForGood(std::atomic<std::uint64_t>& steps) {
+  {
+    const std::lock_guard lock(mutex_);
+    closed_ = true;
+  }
+  release(steps);
 }
 
 }  // namespace calvero

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+#include <cstdint>
 #include <mutex>
 #include <vector>
 
@@ -13,9 +15,9 @@ class HeldFiles {
  public:
   /// Holds the file, or closes it at once after `releaseForGood`.
   void keep(Descriptor file);
-  /// Closes every held file. Blocks while the file system frees their space.
-  void release();
-  void releaseForGood();
+  /// Closes every held file, counting them. Blocks while the file system frees their space.
+  void release(std::atomic<std::uint64_t>& steps);
+  void releaseForGood(std::atomic<std::uint64_t>& steps);
 
  private:
   std::mutex mutex_;  // never held while a descriptor is closed, since that can block for seconds

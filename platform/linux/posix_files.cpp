@@ -42,7 +42,8 @@ Error makePrivate(const FillerPlace& place, const OpenFolder& directory) {
 Error prepare(const FillerPlace& place, const OpenFolder& directory) {
   Error error = makePrivate(place, directory);
   if (error.failed()) return error;
-  error = emptyFolder(directory, place.path());
+  std::atomic<std::uint64_t> steps{0};  // nobody waits for these
+  error = emptyFolder(directory, place.path(), steps);
   if (!error.failed()) switchOffCopyOnWrite(directory);
   return error;
 }

@@ -113,10 +113,10 @@ Error PosixFillerDirectory::removeItem(const std::string& path) {
 
 Error PosixFillerDirectory::remove() {
   closed_ = true;
-  held_.releaseForGood();
+  held_.releaseForGood(cleanUpSteps_);
   Error error;
   for (int attempt = 0; attempt < kRemoveAttempts; ++attempt) {
-    error = emptyFolder(directory_, place_.path());
+    error = emptyFolder(directory_, place_.path(), cleanUpSteps_);
     if (error.failed()) return error;
     error = removeName();
     if (error.code != ErrorCode::exists) return error;

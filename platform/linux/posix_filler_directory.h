@@ -21,7 +21,8 @@ class PosixFillerDirectory : public FillerDirectory {
   std::unique_ptr<FillerFile> openForWriting(const std::string& path, Error& error) override;
   Error removeItem(const std::string& path) override;
   std::uint64_t bytesNotKept() const override { return bytesNotKept_; }
-  void releaseSpace() override { held_.release(); }
+  void releaseSpace() override { held_.release(cleanUpSteps_); }
+  std::uint64_t cleanUpSteps() const override { return cleanUpSteps_; }
   Error remove() override;
 
  private:
@@ -31,6 +32,7 @@ class PosixFillerDirectory : public FillerDirectory {
   OpenFolder directory_;  // closing it drops the lock
   std::atomic<bool> closed_{false};
   std::atomic<std::uint64_t> bytesNotKept_{0};
+  std::atomic<std::uint64_t> cleanUpSteps_{0};
   std::mutex nameMutex_;  // guards nameRemoved_, and that nobody removes the name of the next run's directory
   bool nameRemoved_ = false;
   HeldFiles held_;

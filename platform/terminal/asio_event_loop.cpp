@@ -71,6 +71,14 @@ void AsioEventLoop::fire(TimerId id) {
   timer->action();
 }
 
+bool AsioEventLoop::serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) {
+  const auto end = std::chrono::steady_clock::now() + limit;
+  const TimerId wakesAtTheEnd = startTimer(limit, TimerKind::oneShot, [] {});
+  runUntil([&] { return done() || std::chrono::steady_clock::now() >= end; });
+  stopTimer(wakesAtTheEnd);
+  return done();
+}
+
 void AsioEventLoop::terminate() {
   context_.stop();
 }

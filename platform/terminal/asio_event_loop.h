@@ -23,6 +23,7 @@ class AsioEventLoop : public EventLoop {
   bool isEventLoopThread() const override;
   TimerId startTimer(std::chrono::milliseconds interval, TimerKind kind, std::function<void()> action) override;
   void stopTimer(TimerId timer) override;
+  bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) override;
   void terminate() override;
 
   /// Serves events until `terminate`. What is posted from then on is destroyed without being run, so that nobody waits

@@ -21,6 +21,8 @@ class TerminalControls : public Controls {
   [[nodiscard]] std::string text(Control control) const;
 
   void setText(Control control, const std::string& text) override;
+  void setAttributedTitle(Control, const AttributedTitle&) override {}
+  void highlightNothing(Control) override {}
   void show(Control) override {}
   void hide(Control) override {}
   void turnOn(Control) override {}
@@ -30,7 +32,12 @@ class TerminalControls : public Controls {
   void reloadTable() override {}
   [[nodiscard]] std::size_t selectedRow() const override { return 0; }
   void addTableRow(const std::string&) override {}
+  void clearVolumes() override {}
+  void addTile(const MountedVolume&) override {}
   void removeTiles(const std::vector<std::string>&) override {}
+  [[nodiscard]] std::size_t tileCount() const override { return 0; }
+  void setTileSelection(const std::vector<std::size_t>&) override {}
+  void setTileSelected(std::size_t, bool) override {}
   void setProgress(int) override {}
   void setProgressDeterminate() override {}
   void setProgressIndeterminate() override {}
@@ -39,7 +46,11 @@ class TerminalControls : public Controls {
   bool mainWindowVisible() const override { return true; }
   void bringToFront(Control window) override;
   void orderOut(Control) override {}
+  void activateApplication() override {}
   void leaveTaskBar() override {}
+  void moveToOriginOf(Control, Control) override {}
+  void attachAbove(Control, Control) override {}
+  void makeImmovable(Control) override {}
 
  private:
   Page page_ = Page::volume;

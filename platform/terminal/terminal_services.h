@@ -1,14 +1,19 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 
 #include "platform/terminal/output.h"
+#include "ports/information_file.h"
 #include "ports/localisation.h"
 #include "ports/pop_up_window.h"
+#include "ports/suite_web.h"
 #include "ports/system_notifications.h"
 #include "ports/tag_store.h"
+#include "ports/workspace.h"
 
 namespace calvero {
 
@@ -32,13 +37,41 @@ class EnglishTexts : public Localisation {
   std::string localised(const std::string& key) const override { return key; }
 };
 
+/// The message as a line.
 class PrintedPopUp : public PopUpWindow {
  public:
   explicit PrintedPopUp(const Output& output) : output_(output) {}
-  void show(const Colour&, const std::string& text) override { output_.line(text); }
+
+  void setText(const std::string& text) override { text_ = text; }
+  void bringToFront() override { output_.line(text_); }
+  void setFillColour(const Colour&) override {}
+  void setStatusWindowLevel() override {}
+  void setBorderless() override {}
+  TrackingAreaId addTrackingArea(std::function<void()>, std::function<void()>) override { return kNoPointer; }
+  void setAlertAnimation() override {}
+  [[nodiscard]] ScreenSize screenSize() const override { return {}; }
+  [[nodiscard]] ScreenSize size() const override { return {}; }
+  void moveTo(const ScreenPoint&) override {}
+  void orderOut() override {}
 
  private:
+  static constexpr TrackingAreaId kNoPointer = 1;
+
   const Output& output_;
+  std::string text_;
+};
+
+/// A terminal opens no pages and starts no applications: nothing that it offers asks for them.
+class NoDesktop : public Workspace, public SuiteWeb, public InformationFile {
+ public:
+  void openAddress(const std::string&) override {}
+  void launchApplication(const std::string&) override {}
+  void bringToFront(const std::string&) override {}
+  [[nodiscard]] std::string bundlePath() const override { return "/"; }
+  [[nodiscard]] std::string applicationSupportFolder() const override { return "/"; }
+  void openPage(std::int32_t) override {}
+  [[nodiscard]] std::string portalLoginAddress() const override { return ""; }
+  std::map<std::string, std::string> read(const std::string&) override { return {}; }
 };
 
 }  // namespace calvero

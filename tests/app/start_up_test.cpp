@@ -64,8 +64,8 @@ TEST_F(StartUp, ClearsAllRunFlags) {
 
 TEST_F(StartUp, LogsInitReadsTheOrderAndThenListsTheVolumes) {
   world.create();
-  EXPECT_THAT(world.journal.all(), ElementsAre("log init", "readTag cvrOnline", "mountedVolumes", "addTableRow DATA",
-                                               "setText volLabel \"DATA\""));
+  EXPECT_THAT(world.journal.all(), ElementsAre("log init", "clearVolumes", "readTag cvrOnline", "mountedVolumes",
+                                               "addTableRow DATA", "addTile DATA", "setText volLabel \"DATA\""));
 }
 
 TEST_F(StartUp, KeepsTheFlagWithItsPlainAccessors) {

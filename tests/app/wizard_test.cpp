@@ -169,5 +169,21 @@ TEST_F(Wizard, ThrowsBeyondTheListOnNextWithoutAnyVolume) {
   EXPECT_EQ(empty.controls.page(), -1);
 }
 
+TEST_F(Wizard, HandsOverToTheSuitesHomeApplicationAndQuits) {
+  world.desktop.installAt("/opt/home/1/2/3/4/5/calvero");
+  AppDelegate& app = world.launch();
+  app.goToHome();
+  EXPECT_THAT(world.journal.all(),
+              ElementsAre("launchApplication /opt/home", "activate com.PelmarSoftware.PelmarMacCleaner", "terminate"));
+}
+
+TEST_F(Wizard, LaunchesWhatTheRemovalsLeaveWhenInstalledLessThanSixLevelsDeepAndStillQuits) {
+  world.desktop.installAt("/usr/bin/calvero");
+  AppDelegate& app = world.launch();
+  app.goToHome();
+  EXPECT_THAT(world.journal.all(),
+              ElementsAre("launchApplication /", "activate com.PelmarSoftware.PelmarMacCleaner", "terminate"));
+}
+
 }  // namespace
 }  // namespace calvero

@@ -102,6 +102,15 @@ TEST_P(FilesContract, MakesTheDirectoryAndRemovesItWithEverythingInIt) {
   EXPECT_FALSE(world_->directoryExists(directory_));
 }
 
+TEST_P(FilesContract, ShowsThatTheCleanUpGetsOn) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr);
+  ASSERT_FALSE(directory->createEmptyFile(pathOf(".temp0")).failed());
+  const std::uint64_t before = directory->cleanUpSteps();
+  directory->remove();
+  EXPECT_GT(directory->cleanUpSteps(), before);
+}
+
 TEST_P(FilesContract, RemovingTwiceIsHarmless) {
   const auto directory = create();
   ASSERT_NE(directory, nullptr);

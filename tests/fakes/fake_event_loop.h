@@ -102,6 +102,25 @@ class FakeEventLoop : public EventLoop {
     if (timers_.erase(timer) != 0) journal_.add("stopTimer");
   }
 
+  /// Runs when somebody waits while serving events: what he waits for may happen here.
+  void whenServed(std::function<void()> hook) { whenServed_ = std::move(hook); }
+  /// From now on waiting lasts until its limit, without `done` coming true.
+  void letLimitsPass() { limitsPass_ = true; }
+  void whenLimitPasses(std::function<void()> hook) { whenLimitPasses_ = std::move(hook); }
+
+  bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) override {
+    if (limitsPass_) {
+      journal_.add("limit " + std::to_string(limit.count()));
+      if (whenLimitPasses_) whenLimitPasses_();
+      return done();
+    }
+    if (whenServed_) whenServed_();
+    while (!done()) {
+      if (drain() == 0) std::this_thread::yield();
+    }
+    return true;
+  }
+
   void terminate() override {
     ++terminations_;
     journal_.add("terminate");
@@ -121,6 +140,9 @@ class FakeEventLoop : public EventLoop {
   std::atomic<LoopThread> loopThread_{LoopThread::everyThread};
   const std::thread::id home_ = std::this_thread::get_id();
   std::atomic<int> terminations_{0};
+  std::function<void()> whenServed_;
+  std::function<void()> whenLimitPasses_;
+  std::atomic<bool> limitsPass_{false};
   std::map<TimerId, Timer> timers_;  // event loop thread
   TimerId lastTimer_ = kNoTimer;
   mutable std::mutex mutex_;  // guards the queue

@@ -109,6 +109,7 @@ void FakeFillerDirectory::releaseSpace() {
   files_.script.arrive(FileCall::releaseSpace);
   files_.journal_.add("releaseSpace");
   const std::scoped_lock lock(files_.mutex_);
+  cleanUpSteps_ += kept_.size();
   kept_.clear();
 }
 
@@ -119,6 +120,7 @@ Error FakeFillerDirectory::remove() {
   closed_ = true;
   const ErrorCode code = scripted != ErrorCode::none ? scripted : mediumFault();
   if (code != ErrorCode::none) return fakeError(code, "unlinkat", directory_->path);
+  cleanUpSteps_ += directory_->entries.size();
   directory_->entries.clear();
   return fakeError(files_.forget(*directory_) ? ErrorCode::none : ErrorCode::notFound, "unlinkat", directory_->path);
 }

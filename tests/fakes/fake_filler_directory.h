@@ -27,6 +27,7 @@ class FakeFillerDirectory : public FillerDirectory {
   Error removeItem(const std::string& path) override;
   [[nodiscard]] std::uint64_t bytesNotKept() const override;
   void releaseSpace() override;
+  [[nodiscard]] std::uint64_t cleanUpSteps() const override { return cleanUpSteps_; }
   Error remove() override;
 
  private:
@@ -37,6 +38,7 @@ class FakeFillerDirectory : public FillerDirectory {
   std::vector<std::shared_ptr<FakeFileBody>> kept_;  // removed files whose space stays taken
   std::uint64_t bytesNotKept_ = 0;
   bool closed_ = false;
+  std::atomic<std::uint64_t> cleanUpSteps_{0};
 };
 
 /// One open file in memory.

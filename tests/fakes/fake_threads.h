@@ -43,6 +43,19 @@ class FakeThreads : public Threads {
     body();
   }
 
+  /// Runs the threads of that name that have not been run yet, as `run` does.
+  void runWaiting(const std::string& name) {
+    for (std::size_t nth = 0; nth < started(); ++nth) {
+      std::function<void()> body;
+      {
+        const std::scoped_lock lock(mutex_);
+        if (names_[nth] != name || nth >= bodies_.size()) continue;
+        body.swap(bodies_[nth]);
+      }
+      if (body) body();
+    }
+  }
+
   [[nodiscard]] std::size_t started() const {
     const std::scoped_lock lock(mutex_);
     return names_.size();

@@ -1,58 +1,12 @@
 #include "tests/fakes/recording_controls.h"
 
+#include <sstream>
 #include <utility>
+
+#include "ports/control_names.h"
 
 namespace calvero::testing {
 namespace {
-
-const std::map<Control, const char*> kNames{
-    {Control::tabView, "tabView"},
-    {Control::tableview, "tableview"},
-    {Control::buttonNext, "buttonNext"},
-    {Control::buttonBack, "buttonBack"},
-    {Control::buttonHome, "buttonHome"},
-    {Control::buttonProceed, "buttonProceed"},
-    {Control::buttonCancel, "buttonCancel"},
-    {Control::proceedBtn, "proceedBtn"},
-    {Control::volLabel, "volLabel"},
-    {Control::tfDriveName, "tfDriveName"},
-    {Control::tfFileSystem, "tfFileSystem"},
-    {Control::tfDriveSpace, "tfDriveSpace"},
-    {Control::tfFreeSpace, "tfFreeSpace"},
-    {Control::butFastZeroWipe, "butFastZeroWipe"},
-    {Control::butRandomWipe, "butRandomWipe"},
-    {Control::butDOD5220, "butDOD5220"},
-    {Control::butNAVSO, "butNAVSO"},
-    {Control::butNATO, "butNATO"},
-    {Control::butVSITR, "butVSITR"},
-    {Control::butFAST_ZERO_WRITE, "butFAST_ZERO_WRITE"},
-    {Control::butPETER_GUTTMAN, "butPETER_GUTTMAN"},
-    {Control::butNINTH_ALGO, "butNINTH_ALGO"},
-    {Control::algorithm_1, "algorithm_1"},
-    {Control::algorithm_2, "algorithm_2"},
-    {Control::algorithm_3, "algorithm_3"},
-    {Control::algorithm_4, "algorithm_4"},
-    {Control::algorithm_5, "algorithm_5"},
-    {Control::algorithm_6, "algorithm_6"},
-    {Control::algorithm_7, "algorithm_7"},
-    {Control::algorithm_8, "algorithm_8"},
-    {Control::algorithm_9, "algorithm_9"},
-    {Control::selectingWipingMethod, "selectingWipingMethod"},
-    {Control::low, "low"},
-    {Control::medium, "medium"},
-    {Control::high, "high"},
-    {Control::tfUnsecuredData, "tfUnsecuredData"},
-    {Control::tfCleanedSize, "tfCleanedSize"},
-    {Control::piDataWipe, "piDataWipe"},
-    {Control::labelPhase, "labelPhase"},
-    {Control::tfElapsedTime, "tfElapsedTime"},
-    {Control::tfElapsedData, "tfElapsedData"},
-    {Control::tfFreespaceData, "tfFreespaceData"},
-    {Control::arrayController, "arrayController"},
-    {Control::arraycontroller2, "arraycontroller2"},
-    {Control::window, "window"},
-    {Control::windowCompleted, "windowCompleted"},
-};
 
 bool valueOr(const std::map<Control, bool>& values, Control control, bool otherwise) {
   const auto found = values.find(control);
@@ -60,10 +14,6 @@ bool valueOr(const std::map<Control, bool>& values, Control control, bool otherw
 }
 
 }  // namespace
-
-const char* nameOf(Control control) {
-  return kNames.at(control);
-}
 
 template <typename Value>
 void RecordingControls::remember(std::map<Control, Value>& values, Control control, Value value,
@@ -96,6 +46,17 @@ bool RecordingControls::isOn(Control button) const {
 
 void RecordingControls::setText(Control control, const std::string& text) {
   remember(texts_, control, text, std::string("setText ") + nameOf(control) + ' ' + quoted(text));
+}
+
+void RecordingControls::setAttributedTitle(Control button, const AttributedTitle& title) {
+  std::ostringstream entry;
+  entry << "setAttributedTitle " << nameOf(button) << ' ' << quoted(title.text) << ' ' << title.colour.red << ' '
+        << title.colour.green << ' ' << title.colour.blue << ' ' << title.colour.alpha << ' ' << title.points;
+  remember(texts_, button, title.text, entry.str());
+}
+
+void RecordingControls::highlightNothing(Control button) {
+  journal_.add(std::string("highlightNothing ") + nameOf(button));
 }
 
 void RecordingControls::show(Control control) {
@@ -131,6 +92,37 @@ void RecordingControls::addTableRow(const std::string& driveName) {
   journal_.add("addTableRow " + driveName);
 }
 
+void RecordingControls::clearVolumes() {
+  journal_.add("clearVolumes");
+  tiles_ = 0;
+}
+
+void RecordingControls::addTile(const MountedVolume& volume) {
+  journal_.add("addTile " + volume.name);
+  ++tiles_;
+}
+
+void RecordingControls::setTileSelection(const std::vector<std::size_t>& indexes) {
+  std::string entry = "setTileSelection";
+  for (const std::size_t index : indexes) entry += ' ' + std::to_string(index);
+  journal_.add(entry);
+}
+
+void RecordingControls::setTileSelected(std::size_t index, bool selected) {
+  journal_.add((selected ? "selectTile " : "deselectTile ") + std::to_string(index));
+  const std::scoped_lock lock(mutex_);
+  if (selected) {
+    selectedTiles_.insert(index);
+  } else {
+    selectedTiles_.erase(index);
+  }
+}
+
+std::set<std::size_t> RecordingControls::selectedTiles() const {
+  const std::scoped_lock lock(mutex_);
+  return selectedTiles_;
+}
+
 void RecordingControls::removeTiles(const std::vector<std::string>& objects) {
   std::string entry = "removeTiles";
   for (const std::string& object : objects) entry += ' ' + object;
@@ -158,6 +150,22 @@ void RecordingControls::bringToFront(Control window) {
 
 void RecordingControls::orderOut(Control window) {
   remember(shown_, window, false, std::string("orderOut ") + nameOf(window));
+}
+
+void RecordingControls::activateApplication() {
+  journal_.add("activateApplication");
+}
+
+void RecordingControls::moveToOriginOf(Control child, Control parent) {
+  journal_.add(std::string("moveToOriginOf ") + nameOf(child) + ' ' + nameOf(parent));
+}
+
+void RecordingControls::attachAbove(Control child, Control parent) {
+  journal_.add(std::string("attachAbove ") + nameOf(child) + ' ' + nameOf(parent));
+}
+
+void RecordingControls::makeImmovable(Control window) {
+  journal_.add(std::string("makeImmovable ") + nameOf(window));
 }
 
 void RecordingControls::leaveTaskBar() {

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <map>
 #include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,9 +12,6 @@
 
 namespace calvero::testing {
 
-/// A control's name, as the window's layout spells it.
-const char* nameOf(Control control);
-
 /// Writes every change down and remembers the last one of each control. Any thread.
 class RecordingControls : public Controls {
  public:
@@ -21,6 +19,8 @@ class RecordingControls : public Controls {
 
   void setMainWindowVisible(bool visible) { visible_ = visible; }
   void selectRow(std::size_t row) { selectedRow_ = row; }
+  /// The tiles' content changes without the controller.
+  void setTileCount(std::size_t tiles) { tiles_ = tiles; }
 
   [[nodiscard]] std::string text(Control control) const;
   [[nodiscard]] bool shown(Control control) const;
@@ -29,8 +29,12 @@ class RecordingControls : public Controls {
   /// The page that was selected last; -1 before the first.
   [[nodiscard]] int page() const { return page_; }
   [[nodiscard]] int progress() const { return progress_; }
+  /// The tiles that are drawn as selected.
+  [[nodiscard]] std::set<std::size_t> selectedTiles() const;
 
   void setText(Control control, const std::string& text) override;
+  void setAttributedTitle(Control button, const AttributedTitle& title) override;
+  void highlightNothing(Control button) override;
   void show(Control control) override;
   void hide(Control control) override;
   void turnOn(Control button) override;
@@ -40,6 +44,11 @@ class RecordingControls : public Controls {
   void reloadTable() override;
   [[nodiscard]] std::size_t selectedRow() const override { return selectedRow_; }
   void addTableRow(const std::string& driveName) override;
+  void clearVolumes() override;
+  void addTile(const MountedVolume& volume) override;
+  [[nodiscard]] std::size_t tileCount() const override { return tiles_; }
+  void setTileSelection(const std::vector<std::size_t>& indexes) override;
+  void setTileSelected(std::size_t index, bool selected) override;
   void removeTiles(const std::vector<std::string>& objects) override;
   void setProgress(int percent) override;
   void setProgressDeterminate() override;
@@ -48,7 +57,11 @@ class RecordingControls : public Controls {
   [[nodiscard]] bool mainWindowVisible() const override { return visible_; }
   void bringToFront(Control window) override;
   void orderOut(Control window) override;
+  void activateApplication() override;
   void leaveTaskBar() override;
+  void moveToOriginOf(Control child, Control parent) override;
+  void attachAbove(Control child, Control parent) override;
+  void makeImmovable(Control window) override;
 
  private:
   template <typename Value>
@@ -59,6 +72,8 @@ class RecordingControls : public Controls {
   std::map<Control, std::string> texts_;
   std::map<Control, bool> shown_;
   std::map<Control, bool> on_;
+  std::set<std::size_t> selectedTiles_;
+  std::atomic<std::size_t> tiles_{0};
   std::atomic<int> page_{-1};
   std::atomic<int> progress_{0};
   std::atomic<bool> visible_{true};

@@ -26,8 +26,24 @@ void World::order(const std::string& driveName, const std::string& method) {
 }
 
 AppDelegate& World::create() {
-  app_ = std::make_unique<AppDelegate>(Ports{alerts, clock, controls, volumes, loop, files, localisation, volumes,
-                                             popUp, random, log, systemNotifications, tags, threads});
+  app_ = std::make_unique<AppDelegate>(Ports{.alerts = alerts,
+                                             .clock = clock,
+                                             .controls = controls,
+                                             .diskLookup = volumes,
+                                             .eventLoop = loop,
+                                             .files = files,
+                                             .informationFile = desktop,
+                                             .localisation = localisation,
+                                             .mountedVolumes = volumes,
+                                             .popUpWindow = popUp,
+                                             .random = random,
+                                             .suiteWeb = desktop,
+                                             .log = log,
+                                             .systemNotifications = systemNotifications,
+                                             .tagStore = tags,
+                                             .threads = threads,
+                                             .workspace = desktop});
+  loop.whenServed([this] { threads.runWaiting("calvero-cancel"); });
   return *app_;
 }
 
@@ -55,7 +71,7 @@ void World::eject(const std::string& name) {
 }
 
 Steps World::steps() const {
-  Steps steps = journal.without({"log", "notice", "lookUp", "readTag"});
+  Steps steps = journal.without({"log", "notice", "lookUp", "readTag", "popUpWindow"});
   std::erase_if(steps, [](const std::string& step) { return step.starts_with("exists /"); });
   return steps;
 }

@@ -66,6 +66,7 @@ class World {
   FakeFiles files{journal};
   FakeLocalisation localisation;
   FakePopUp popUp{journal};
+  FakeDesktop desktop{journal};
   FakeRandom random;
   FakeLog log{journal};
   FakeSystemNotifications systemNotifications{journal};

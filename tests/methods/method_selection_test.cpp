@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "methods/method_catalogue.h"
+#include "ports/control_names.h"
 #include "tests/fakes/world.h"
 
 namespace calvero {
@@ -137,7 +138,7 @@ TEST(MethodCatalogue, HoldsTheNineMethodsWithTheirControlsLabelsAndPasses) {
   for (const Row& row : kRows) {
     const EraseMethod& method = kMethodCatalogue.at(static_cast<std::size_t>(row.number));
     EXPECT_EQ(method.number, row.number);
-    EXPECT_STREQ(testing::nameOf(method.button), row.button);
+    EXPECT_STREQ(nameOf(method.button), row.button);
     EXPECT_EQ(method.label, row.label);
     EXPECT_STREQ(method.labelKey, row.labelKey);
     EXPECT_EQ(method.passes, row.passes);

@@ -51,8 +51,9 @@ TEST(VolumeEnumeration, AddsEachVolumesRowBeforeItsLabel) {
   world.volume(volumeOf("HIDDEN", "SMB"));
   world.volume("TWO", 200);
   const AppDelegate& app = world.create();
-  EXPECT_THAT(world.steps(), ElementsAre("mountedVolumes", "addTableRow ONE", "setText volLabel \"ONE\"",
-                                         "addTableRow TWO", "setText volLabel \"TWO\""));
+  EXPECT_THAT(world.steps(),
+              ElementsAre("clearVolumes", "mountedVolumes", "addTableRow ONE", "addTile ONE",
+                          "setText volLabel \"ONE\"", "addTableRow TWO", "addTile TWO", "setText volLabel \"TWO\""));
   EXPECT_THAT(app.shell().mutdictForArrayController,
               ElementsAre(std::pair<const std::string, std::string>("Drives", "TWO")));
   EXPECT_EQ(world.controls.text(Control::volLabel), "TWO") << "the last one stays";
@@ -139,7 +140,7 @@ TEST(VolumeEnumeration, EndsARemoteOrderForAVolumeThatIsNotMountedBeforeTheWindo
   world.volume("DATA", 100);
   world.order("GONE", "1");
   world.create();
-  EXPECT_THAT(world.steps(), ElementsAre("mountedVolumes", "setTag cvrStatus \"3\"", "terminate"));
+  EXPECT_THAT(world.steps(), ElementsAre("clearVolumes", "mountedVolumes", "setTag cvrStatus \"3\"", "terminate"));
   EXPECT_THAT(world.alerts.shown(), IsEmpty());
 }
 
@@ -170,9 +171,10 @@ TEST(VolumeReload, RemovesTheTilesAndBuildsTheControllersStateAnew) {
   world.volume("NEW", 700);
   world.journal.clear();
   app.reloadVolumes();
-  EXPECT_THAT(world.journal.all(), ElementsAre("removeTiles DATA MORE", "log init", "readTag cvrOnline",
-                                               "mountedVolumes", "addTableRow DATA", "setText volLabel \"DATA\"",
-                                               "addTableRow NEW", "setText volLabel \"NEW\""));
+  EXPECT_THAT(world.journal.all(),
+              ElementsAre("removeTiles DATA MORE", "log init", "clearVolumes", "readTag cvrOnline", "mountedVolumes",
+                          "addTableRow DATA", "addTile DATA", "setText volLabel \"DATA\"", "addTableRow NEW",
+                          "addTile NEW", "setText volLabel \"NEW\""));
   EXPECT_THAT(app.volumes().volumeNameArray, ElementsAre("DATA", "NEW"));
   EXPECT_EQ(app.shell().createFilePath, "test");
   EXPECT_EQ(app.shell().currentSelectionG, 0U);

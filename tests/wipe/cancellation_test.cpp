@@ -36,8 +36,8 @@ TEST_F(Cancellation, StopsTheRunRemovesItsFilesAndTellsTheUserInOrder) {
   world.app().cancelWipe();
   EXPECT_THAT(world.steps(),
               ElementsAre("hide proceedBtn", "setText labelPhase \"Please wait, finishing current process..\"",
-                          "setProgressIndeterminate", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
-                          "setText tfCleanedSize \"300.00 MB\"", kAbortedAlert, "post", "post", "post",
+                          "setProgressIndeterminate", "detach", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
+                          "setText tfCleanedSize \"300.00 MB\"", "post", kAbortedAlert, "post", "post", "post",
                           "setText labelPhase \"Phase 1: Analyzing Data..\"", "redraw labelPhase"));
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
 }
@@ -58,12 +58,12 @@ TEST_F(Cancellation, RaisesBothFlagsBeforeAnythingElse) {
 TEST_F(Cancellation, ListsTheVolumesTwiceAndShowsTheFirstPageAfterTheAlertsOk) {
   layOut();
   world.alerts.whileShown([this] {
-    EXPECT_THAT(world.journal.only({"post", "removeTiles", "selectPage", "mountedVolumes"}), IsEmpty());
+    EXPECT_THAT(world.journal.only({"removeTiles", "selectPage", "mountedVolumes"}), IsEmpty());
   });
   world.app().cancelWipe();
   EXPECT_THAT(world.journal.only({"removeTiles", "selectPage", "mountedVolumes"}), IsEmpty()) << "before it returned";
   world.journal.clear();
-  EXPECT_EQ(world.loop.drain(), 3U);
+  EXPECT_EQ(world.loop.drain(), 4U) << "the end of the waiting, two lists, the way back";
   EXPECT_THAT(world.journal.only({"removeTiles", "mountedVolumes", "selectPage", "reloadTable"}),
               ElementsAre("removeTiles DATA", "mountedVolumes", "removeTiles DATA", "mountedVolumes", "selectPage 0",
                           "reloadTable"));
@@ -114,8 +114,8 @@ TEST_F(Cancellation, FromTheSuiteInLocalModeEndsTheApplicationWithoutTheAlert) {
   world.app().cancelProcess();
   EXPECT_THAT(world.steps(),
               ElementsAre("hide proceedBtn", "setText labelPhase \"Please wait, finishing current process..\"",
-                          "setProgressIndeterminate", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
-                          "setText tfCleanedSize \"300.00 MB\"", "terminate"));
+                          "setProgressIndeterminate", "detach", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
+                          "setText tfCleanedSize \"300.00 MB\"", "post", "terminate"));
   EXPECT_EQ(world.app().order().cloudTerm, 1);
 }
 
@@ -127,8 +127,8 @@ TEST_F(Cancellation, InRemoteModeReportsTheAbortAndEndsTheApplicationThreeSecond
   world.app().cancelWipe();
   EXPECT_THAT(world.steps(),
               ElementsAre("hide proceedBtn", "setText labelPhase \"Please wait, finishing current process..\"",
-                          "setProgressIndeterminate", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
-                          "setText tfCleanedSize \"300.00 MB\"",
+                          "setProgressIndeterminate", "detach", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
+                          "setText tfCleanedSize \"300.00 MB\"", "post", "startTimer 7000 once",
                           "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"",
                           "setTag cvrStatus \"3\"", "selectPage 0", "sleep 3", "terminate"));
 }
@@ -226,6 +226,54 @@ TEST_F(Completion, LeavesTheAbortSetUntilTheNextRunClearsIt) {
   EXPECT_TRUE(world.app().abortErasing());
   world.proceed();
   EXPECT_FALSE(world.app().abortErasing());
+}
+
+TEST_F(Cancellation, OfAVolumeThatDoesNotAnswerGoesOnWithoutItAndRemovesTheFilesLater) {
+  layOut();
+  world.loop.letLimitsPass();
+  world.app().cancelWipe();
+  EXPECT_THAT(world.journal.only({"limit", "alert"}), ElementsAre("limit 8000", kAbortedAlert));
+  EXPECT_TRUE(world.files.directoryExists(World::kDirectory));
+  world.loop.drain();
+  EXPECT_EQ(world.controls.page(), 0);
+  world.threads.runWaiting("calvero-cancel");
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+}
+
+TEST_F(Cancellation, WaitsOnWhileTheCleanUpGetsOn) {
+  layOut();
+  const auto directory = world.app().currentRun()->directory();
+  world.app().fillFilePath(*world.app().currentRun(), std::string(World::kDirectory) + "/.temp0", 32768);
+  directory->removeItem(std::string(World::kDirectory) + "/.temp0");
+  world.loop.letLimitsPass();
+  int limits = 0;
+  world.loop.whenLimitPasses([&] {
+    if (++limits == 1) directory->releaseSpace();
+  });
+  world.app().cancelWipe();
+  EXPECT_EQ(limits, 2) << "one more after the sign of life";
+}
+
+TEST_F(Cancellation, AskedForAgainWhileItWaitsIsCountedAndDoneOnce) {
+  layOut();
+  world.loop.whenServed([this] {
+    world.app().cancelWipe();
+    world.threads.runWaiting("calvero-cancel");
+  });
+  world.app().cancelWipe();
+  EXPECT_EQ(world.app().shell().cancelNumber, 2);
+  EXPECT_EQ(world.journal.only({"removeDirectory"}).size(), 1U);
+  EXPECT_THAT(world.journal.only({"alert"}), ElementsAre(kAbortedAlert));
+}
+
+TEST_F(Cancellation, AskedForByTheSuiteWhileItWaitsEndsTheApplicationWithoutTheAlert) {
+  layOut();
+  world.loop.whenServed([this] {
+    world.app().cancelProcess();
+    world.threads.runWaiting("calvero-cancel");
+  });
+  world.app().cancelWipe();
+  EXPECT_THAT(world.journal.only({"alert", "terminate"}), ElementsAre("terminate"));
 }
 
 }  // namespace

@@ -154,9 +154,10 @@ TEST_F(CleanUp, TakesALostMediumAsALostVolumeAndCarriesOn) {
 TEST_F(CleanUp, ReportsAFinishedRemoteRunAndEndsTheApplication) {
   layOutOrdered();
   world.app().deleteFiles(*run);
-  EXPECT_THAT(world.steps(), ElementsAre("releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
-                                         "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"",
-                                         "sleep 7", "setTag cvrStatus \"2\"", "terminate"));
+  EXPECT_THAT(world.steps(),
+              ElementsAre("releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU", "startTimer 7000 once",
+                          "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"", "sleep 7",
+                          "setTag cvrStatus \"2\"", "terminate"));
 }
 
 TEST_F(CleanUp, EndsAWholeRemoteRunWithoutTheCompletionWindow) {
@@ -164,9 +165,9 @@ TEST_F(CleanUp, EndsAWholeRemoteRunWithoutTheCompletionWindow) {
   world.launch();
   world.runWorker();
   const Steps steps = world.steps();
-  ASSERT_GE(steps.size(), 5U);
-  EXPECT_THAT(Steps(steps.end() - 5, steps.end()),
-              ElementsAre("removeDirectory /media/DATA/.$$XE8AQU",
+  ASSERT_GE(steps.size(), 6U);
+  EXPECT_THAT(Steps(steps.end() - 6, steps.end()),
+              ElementsAre("removeDirectory /media/DATA/.$$XE8AQU", "startTimer 7000 once",
                           "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"", "sleep 7",
                           "setTag cvrStatus \"2\"", "terminate"));
   EXPECT_THAT(world.journal.only({"setText tfCleanedSize", "bringToFront"}), IsEmpty());

@@ -27,14 +27,17 @@ Ports CommandPorts::ports() {
           .diskLookup = volumes_,
           .eventLoop = loop,
           .files = files_,
+          .informationFile = desktop_,
           .localisation = texts_,
           .mountedVolumes = volumes_,
           .popUpWindow = popUp_,
           .random = random_,
+          .suiteWeb = desktop_,
           .log = log_,
           .systemNotifications = systemNotifications_,
           .tagStore = tagStore_,
-          .threads = threads};
+          .threads = threads,
+          .workspace = desktop_};
 }
 
 void CommandPorts::passOn(const Receiver& receiver, const std::string& text) {

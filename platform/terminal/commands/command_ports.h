@@ -58,6 +58,7 @@ class CommandPorts {
   NoSystemNotifications systemNotifications_;
   EnglishTexts texts_;
   PrintedPopUp popUp_;
+  NoDesktop desktop_;
 };
 
 /// The volumes that the controller offers, in its order, as the system described them.

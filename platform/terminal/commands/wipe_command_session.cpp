@@ -60,6 +60,7 @@ void WipeCommandSession::start() {
 void WipeCommandSession::look() {
   speed_.note(run_->counters.bytesCovered, sinceStart());
   view_.update(figures(), std::chrono::duration_cast<std::chrono::milliseconds>(sinceStart()));
+  if (isCancelling_) return;  // the cancel is waiting for the clean-up
   // A run that loses its volume ends without a word. The end takes its place behind what the worker posted before.
   if (run_->workerEnded != 0) ports_.loop.post([this] { end(); });
 }

@@ -1,5 +1,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
+
+#include <atomic>
 #include <unistd.h>
 
 #include <array>
@@ -29,18 +31,20 @@ class WatchedDescriptor {
   Descriptor writing_;
 };
 
+std::atomic<std::uint64_t> steps{0};
+
 TEST(HeldFiles, StayOpenUntilTheyAreReleased) {
   HeldFiles held;
   WatchedDescriptor file;
   held.keep(file.take());
   EXPECT_FALSE(file.closed());
-  held.release();
+  held.release(steps);
   EXPECT_TRUE(file.closed());
 }
 
 TEST(HeldFiles, AreHeldAgainAfterARelease) {
   HeldFiles held;
-  held.release();
+  held.release(steps);
   WatchedDescriptor file;
   held.keep(file.take());
   EXPECT_FALSE(file.closed());
@@ -50,11 +54,22 @@ TEST(HeldFiles, AreClosedAtOnceAfterTheLastRelease) {
   HeldFiles held;
   WatchedDescriptor before;
   held.keep(before.take());
-  held.releaseForGood();
+  held.releaseForGood(steps);
   EXPECT_TRUE(before.closed());
   WatchedDescriptor late;
   held.keep(late.take());
   EXPECT_TRUE(late.closed());
+}
+
+TEST(HeldFiles, AreCountedAsTheyAreReleased) {
+  HeldFiles held;
+  WatchedDescriptor first;
+  WatchedDescriptor second;
+  held.keep(first.take());
+  held.keep(second.take());
+  std::atomic<std::uint64_t> released{0};
+  held.release(released);
+  EXPECT_EQ(released, 2U);
 }
 
 TEST(HeldFiles, EndWithTheirHolder) {

@@ -120,6 +120,27 @@ TEST(AsioEventLoop, DestroysWhatIsPostedAfterItsEndSoThatNobodyWaitsForIt) {
   EXPECT_THROW(lateResult.get(), std::future_error);
 }
 
+TEST(AsioEventLoop, ServesEventsUntilWhatIsWaitedForIsDone) {
+  AsioEventLoop loop;
+  bool done = false;
+  int served = 0;
+  loop.post([&] { ++served; });
+  loop.post([&] { done = true; });
+  EXPECT_TRUE(loop.serveUntil([&] { return done; }, std::chrono::seconds(20)));
+  EXPECT_EQ(served, 1);
+}
+
+TEST(AsioEventLoop, ServesEventsNoLongerThanTheLimit) {
+  AsioEventLoop loop;
+  EXPECT_FALSE(loop.serveUntil([] { return false; }, std::chrono::milliseconds(20)));
+}
+
+TEST(AsioEventLoop, StopsServingWhenTheApplicationEnds) {
+  AsioEventLoop loop;
+  loop.post([&] { loop.terminate(); });
+  EXPECT_FALSE(loop.serveUntil([] { return false; }, std::chrono::seconds(20)));
+}
+
 TEST(StopSignals, RunTheirActionOnTheLoopForEverySignal) {
   AsioEventLoop loop;
   int signals = 0;
