@@ -3,14 +3,12 @@
 namespace calvero {
 namespace {
 
-// The leading dot hides the directory and its files from ordinary listings.
-constexpr const char* kDirectoryName = ".$$XE8AQU";
 constexpr const char* kFilePrefix = "/.temp";
 
 }  // namespace
 
 std::string fillerDirectoryPath(const std::string& volumePath) {
-  return (volumePath == "/" ? volumePath : volumePath + "/") + kDirectoryName;
+  return (volumePath == "/" ? volumePath : volumePath + "/") + kFillerDirectoryName;
 }
 
 std::string fillerFilePath(const std::string& volumePath, std::uint64_t number) {

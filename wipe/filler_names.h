@@ -9,6 +9,9 @@ namespace calvero {
 /// it, and the erased amount counts in it.
 constexpr std::uint64_t kFillerFileBytes = 128'000'000;
 
+/// The filler directory's name. The leading dot hides it and its files from ordinary listings.
+constexpr const char* kFillerDirectoryName = ".$$XE8AQU";
+
 /// The hidden filler directory of the volume mounted at `volumePath`: "/.$$XE8AQU" for "/", else
 /// "<volumePath>/.$$XE8AQU".
 std::string fillerDirectoryPath(const std::string& volumePath);
