@@ -193,6 +193,8 @@ class AppDelegate {
 
   void showPopUp(const Colour& colour, const std::string& text, PopUpCloses closes);
   void schedulePopUpCheck();
+  void setVolumePageTexts();
+  void setProgressPageAndSideBarTexts();
   void readRemoteOrder();
   void appendVolume(VolumeTable& table, const MountedVolume& volume);
   void selectMethod(std::int32_t number);

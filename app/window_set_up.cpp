@@ -1,5 +1,3 @@
-#include <utility>
-
 #include "app/app_delegate.h"
 #include "ports/controls.h"
 
@@ -9,38 +7,15 @@ namespace {
 constexpr Colour kWhite{1.0, 1.0, 1.0, 1.0};
 constexpr double kSideBarPoints = 11.0;
 
-using CaptionKey = std::pair<Control, const char*>;
-
-constexpr CaptionKey kVolumePageKeys[] = {
-    {Control::clickNext, "Click next to continue"}, {Control::driveName, "Drive Name :"},
-    {Control::fileSystem, "File System :"},         {Control::driveSpace, "Drive Space :"},
-    {Control::freeSpace, "Free Space :"},           {Control::reloadDrivers, "Reload Drives"},
-};
-
-// "Free Space :" and "Free Space:" are two keys; "Cloud Control " here and "Cloud Control" on the button are two more.
-constexpr CaptionKey kFurtherKeys[] = {
-    {Control::unSecuredData, "Unsecured Data: "},
-    {Control::erasingfreeSpaceData, "Erasing free space data securely"},
-    {Control::tfelapsedTime, "Elapsed Time:"},
-    {Control::tfelapsedData, "Erased Data:"},
-    {Control::tffreeSpace, "Free Space:"},
-    {Control::cancelBut, "Cancel"},
-    {Control::CloudControl, "Cloud Control "},
-    {Control::Settings, "Settings"},
-    {Control::Help, "Help"},
-    {Control::proceedBtn, "Proceed"},
-    {Control::ondrelMore, "Ondrel More"},
-};
-
 }  // namespace
 
 void AppDelegate::awakeFromNib() {
   order_.cloudTerm = 0;
-  Controls& controls = ports_.controls;
-  for (const auto& [control, key] : kVolumePageKeys) controls.setText(control, localised(key));
+  setVolumePageTexts();
   setMethodTexts();
-  for (const auto& [control, key] : kFurtherKeys) controls.setText(control, localised(key));
+  setProgressPageAndSideBarTexts();
 
+  Controls& controls = ports_.controls;
   controls.setAttributedTitle(Control::buttonCloud, {localised("Cloud Control"), kWhite, kSideBarPoints});
   controls.highlightNothing(Control::buttonCloud);
   if (shell_.admin == 0) {
@@ -48,6 +23,32 @@ void AppDelegate::awakeFromNib() {
     controls.hide(Control::cloud_img_1);
   }
   controls.activateApplication();
+}
+
+void AppDelegate::setVolumePageTexts() {
+  Controls& controls = ports_.controls;
+  controls.setText(Control::clickNext, localised("Click next to continue"));
+  controls.setText(Control::driveName, localised("Drive Name :"));
+  controls.setText(Control::fileSystem, localised("File System :"));
+  controls.setText(Control::driveSpace, localised("Drive Space :"));
+  controls.setText(Control::freeSpace, localised("Free Space :"));
+  controls.setText(Control::reloadDrivers, localised("Reload Drives"));
+}
+
+// "Free Space:" here and "Free Space :" above are two keys; "Cloud Control " here and "Cloud Control" are two more.
+void AppDelegate::setProgressPageAndSideBarTexts() {
+  Controls& controls = ports_.controls;
+  controls.setText(Control::unSecuredData, localised("Unsecured Data: "));
+  controls.setText(Control::erasingfreeSpaceData, localised("Erasing free space data securely"));
+  controls.setText(Control::tfelapsedTime, localised("Elapsed Time:"));
+  controls.setText(Control::tfelapsedData, localised("Erased Data:"));
+  controls.setText(Control::tffreeSpace, localised("Free Space:"));
+  controls.setText(Control::cancelBut, localised("Cancel"));
+  controls.setText(Control::CloudControl, localised("Cloud Control "));
+  controls.setText(Control::Settings, localised("Settings"));
+  controls.setText(Control::Help, localised("Help"));
+  controls.setText(Control::proceedBtn, localised("Proceed"));
+  controls.setText(Control::ondrelMore, localised("Ondrel More"));
 }
 
 }  // namespace calvero

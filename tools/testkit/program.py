@@ -1,4 +1,4 @@
-"""Runs calvero-cli: to its end, in the background, on a terminal of its own, or under strace."""
+"""Finds the programs, and runs calvero-cli: to its end, in the background, on a terminal of its own, or under strace."""
 
 import ctypes
 import fcntl
@@ -18,19 +18,27 @@ EXIT_FINISHED, EXIT_FAILED, EXIT_WRONG_USAGE, EXIT_REFUSED, EXIT_CANCELLED = ran
 
 
 def programPath():
-    path = os.environ.get("CALVERO_CLI", "")
+    return _namedBy("CALVERO_CLI", "calvero-cli")
+
+
+def windowProgramPath():
+    return _namedBy("CALVERO", "calvero")
+
+
+def _namedBy(variable, name):
+    path = os.environ.get(variable, "")
     if not os.access(path, os.X_OK):
-        raise SystemExit("CALVERO_CLI must name the calvero-cli program")
+        raise SystemExit(f"{variable} must name the {name} program")
     return os.path.abspath(path)
 
 
 class PublicCopy:
-    """A copy of the program that every user may start, wherever the build folder lies."""
+    """A copy of a program, calvero-cli unless another is named, that every user may start, wherever it lies."""
 
-    def __init__(self):
+    def __init__(self, path=None):
         self._folder = tempfile.mkdtemp(prefix="calvero-program-")
         os.chmod(self._folder, 0o755)
-        self.path = shutil.copy(programPath(), self._folder)
+        self.path = shutil.copy(path or programPath(), self._folder)
         os.chmod(self.path, 0o755)
 
     def remove(self):

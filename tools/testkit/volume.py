@@ -8,6 +8,7 @@ import ctypes
 import errno
 import fcntl
 import os
+import re
 import shutil
 import struct
 import subprocess
@@ -32,7 +33,15 @@ _MKFS = {
     "ext4": ["mkfs.ext4", "-q", "-F", "-E", "nodiscard,lazy_itable_init=0,lazy_journal_init=0"],
     "xfs": ["mkfs.xfs", "-q", "-f", "-K"],
     "btrfs": ["mkfs.btrfs", "-q", "-f", "-K"],
+    # What else it would look for on a disk, and complain that it is not there.
+    "ntfs": ["mkfs.ntfs", "-q", "-Q", "-F", "-p", "0", "-H", "255", "-S", "63"],
 }
+# What is mounted through a program of its own; see fuse_volume.
+_KERNEL_NAMES = {"ntfs": "fuseblk"}
+_MODULES = {"ntfs": "fuse"}
+
+# Disks, though the kernel needs no block device for them.
+_DISKS_WITHOUT_DEVICE = {"9p", "ceph", "cifs", "nfs", "nfs4", "overlay", "smb3", "vboxsf", "virtiofs", "zfs"}
 
 
 class Unavailable(Exception):
@@ -48,8 +57,8 @@ def whyUnavailable(fs):
     if shutil.which(_MKFS[fs][0], path=_SEARCH_PATH) is None:
         return f"{_MKFS[fs][0]} is not installed"
     with open("/proc/filesystems") as known:
-        listed = any(line.split()[-1] == fs for line in known)
-    if not listed and subprocess.run(["modprobe", fs], capture_output=True).returncode != 0:
+        listed = any(line.split()[-1] == _KERNEL_NAMES.get(fs, fs) for line in known)
+    if not listed and subprocess.run(["modprobe", _MODULES.get(fs, fs)], capture_output=True).returncode != 0:
         return f"the kernel has no {fs}"
     return None
 
@@ -67,6 +76,40 @@ def _usePrivateMounts():
     # Slave, not private: what the system unmounts goes here too, so that this process keeps no disk of it busy.
     subprocess.run(["mount", "--make-rslave", "/"], check=True)
     _privateMounts = True
+
+
+_protected = False
+
+
+def protectDisks():
+    """Makes the machine's own disks read-only for this process and what it starts, but for the temporary folders: a
+    slip of the hand in a window that offers all volumes must not fill or change them."""
+    global _protected
+    if _protected:
+        return
+    _usePrivateMounts()
+    kept = {"/tmp", tempfile.gettempdir()}  # the screen's server knows only the first
+    disks = [path for path in _disks() if path not in kept]
+    for path in kept:
+        subprocess.run(["mount", "--rbind", path, path], check=True)
+    for path in disks:
+        subprocess.run(["mount", "-o", "remount,bind,ro", path], check=True)
+    _protected = True
+
+
+def _disks():
+    """Where the machine's own disks are mounted."""
+    with open("/proc/filesystems") as known:
+        onDevices = {line.split()[-1] for line in known if not line.startswith("nodev")}
+    paths = set()
+    with open("/proc/self/mountinfo") as mounts:
+        for line in mounts:
+            before, _, after = line.partition(" - ")
+            path = re.sub(r"\\(\d{3})", lambda octal: chr(int(octal[1], 8)), before.split()[4])
+            kind = after.split()[0]
+            if path == "/" or kind in onDevices or kind in _DISKS_WITHOUT_DEVICE:
+                paths.add(path)
+    return sorted(paths)
 
 
 def _memoryAvailable():
@@ -109,11 +152,12 @@ def _attach(imageDescriptor):
 
 
 class Volume:
-    """A mounted volume. `neededBytes` is what the image may grow to, where the volume itself is larger (sparse)."""
+    """A mounted volume. `neededBytes` is what the image may grow to, where the volume itself is larger (sparse).
+    `label` may be bytes; where it holds what cannot be shown the program gives the volume another name."""
 
     _made = 0
 
-    def __init__(self, fs, sizeBytes, neededBytes=None, mkfsOptions=()):
+    def __init__(self, fs, sizeBytes, neededBytes=None, mkfsOptions=(), label=None):
         reason = whyUnavailable(fs)
         if reason:
             raise Unavailable(reason)
@@ -128,7 +172,7 @@ class Volume:
         self._loop, self._device = _attach(self._image.fileno())
         self.path = tempfile.mkdtemp(prefix="calvero-volume-")
         try:
-            subprocess.run([*_MKFS[fs], "-L", self.name, *mkfsOptions, self._device], check=True,
+            subprocess.run([*_MKFS[fs], "-L", label or self.name, *mkfsOptions, self._device], check=True,
                            stdout=subprocess.DEVNULL, env=os.environ | {"PATH": _SEARCH_PATH})
             self.mount()
         except BaseException:

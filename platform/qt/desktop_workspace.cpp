@@ -1,0 +1,64 @@
+#include "platform/qt/desktop_workspace.h"
+
+#include <QCoreApplication>
+#include <QDBusMessage>
+#include <QDesktopServices>
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QUrl>
+#include <QVariantMap>
+
+namespace calvero {
+namespace {
+
+bool isWebAddress(const QUrl& url) {
+  return url.isValid() && !url.host().isEmpty() && (url.scheme() == "https" || url.scheme() == "http");
+}
+
+/// As the desktop entry specification makes it of an application's name.
+QString objectPathOf(QString identifier) {
+  return '/' + identifier.replace('.', '/').replace('-', '_');
+}
+
+/// libdbus ends the process over a name that is none.
+bool isBusName(const QString& text) {
+  constexpr qsizetype kLongest = 255;
+  static const QRegularExpression form(R"(\A[A-Za-z_-][A-Za-z0-9_-]*(\.[A-Za-z_-][A-Za-z0-9_-]*)+\z)");
+  return text.size() <= kLongest && form.match(text).hasMatch();
+}
+
+}  // namespace
+
+void DesktopWorkspace::openAddress(const std::string& address) {
+  const QUrl url(QString::fromStdString(address));
+  if (isWebAddress(url)) QDesktopServices::openUrl(url);
+}
+
+void DesktopWorkspace::launchApplication(const std::string& path) {
+  if (path.empty()) return;
+  QProcess::startDetached(QString::fromStdString(path), QStringList(), QDir::homePath());
+}
+
+void DesktopWorkspace::bringToFront(const std::string& identifier) {
+  const QString name = QString::fromStdString(identifier);
+  if (!isBusName(name)) return;
+  QDBusMessage call =
+      QDBusMessage::createMethodCall(name, objectPathOf(name), "org.freedesktop.Application", "Activate");
+  call << QVariantMap();
+  call.setAutoStartService(false);  // only an application that runs
+  // Written to the bus before it returns; the answer is not waited for.
+  sessionBus_().send(call);
+}
+
+std::string DesktopWorkspace::bundlePath() const {
+  return QCoreApplication::applicationFilePath().toStdString();
+}
+
+std::string DesktopWorkspace::applicationSupportFolder() const {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
+}
+
+}  // namespace calvero

@@ -1,0 +1,128 @@
+#include "platform/qt/qt_alerts.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <algorithm>
+#include <memory>
+
+#include "ports/localisation.h"
+
+namespace calvero {
+namespace {
+
+// Characters of a line of text: what the dialog has room for at least, and where a line wraps.
+constexpr int kFewest = 40;
+constexpr int kMost = 60;
+
+struct Texts {
+  QString heading;
+  QString details;
+};
+
+QString withTrimmedLines(const QString& text) {
+  QStringList lines = text.split('\n');
+  for (QString& line : lines) line = line.trimmed();
+  return lines.join('\n').trimmed();
+}
+
+/// A notice that has everything in its title shows the first line as heading.
+Texts textsOf(const Alert& alert) {
+  const QString title = withTrimmedLines(QString::fromStdString(alert.title));
+  const QString message = withTrimmedLines(QString::fromStdString(alert.message));
+  if (!message.isEmpty()) return {title, message};
+  return {title.section('\n', 0, 0), title.section('\n', 1)};
+}
+
+QString literally(const std::string& buttonText) {
+  return QString::fromStdString(buttonText).replace('&', "&&");
+}
+
+QLabel* newTextLabel(const QString& text, const QFont& font, QDialog& dialog) {
+  auto* label = new QLabel(&dialog);
+  label->setTextFormat(Qt::PlainText);
+  label->setFont(font);
+  label->setText(text);
+  label->setWordWrap(true);
+  label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+  const QFontMetrics metrics(font);
+  const int widest = metrics.averageCharWidth() * kMost;
+  label->setMinimumWidth(
+      std::min(metrics.boundingRect(QRect(0, 0, widest, 0), Qt::TextWordWrap, text).width() + 1, widest));
+  label->setTextInteractionFlags(Qt::TextInteractionFlags(
+      dialog.style()->styleHint(QStyle::SH_MessageBox_TextInteractionFlags, nullptr, &dialog)));
+  return label;
+}
+
+QLabel* newIconLabel(QStyle::StandardPixmap icon, QDialog& dialog) {
+  auto* label = new QLabel(&dialog);
+  const int pixels = dialog.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &dialog);
+  label->setPixmap(
+      dialog.style()->standardIcon(icon, nullptr, &dialog).pixmap(QSize(pixels, pixels), dialog.devicePixelRatio()));
+  return label;
+}
+
+QPushButton* addButton(QDialogButtonBox& box, const std::string& text, QDialogButtonBox::ButtonRole role,
+                       const char* name) {
+  QPushButton* button = box.addButton(literally(text), role);
+  button->setObjectName(name);
+  return button;
+}
+
+void layOut(QDialog& dialog, const Alert& alert, QDialogButtonBox* buttons) {
+  const Texts texts = textsOf(alert);
+  QFont bold = dialog.font();
+  bold.setBold(true);
+  auto* layout = new QGridLayout(&dialog);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+  layout->setColumnMinimumWidth(1, dialog.fontMetrics().averageCharWidth() * kFewest);
+  layout->setHorizontalSpacing(2 * layout->horizontalSpacing());
+  const bool isQuestion = !alert.alternateButton.empty();
+  layout->addWidget(newIconLabel(isQuestion ? QStyle::SP_MessageBoxQuestion : QStyle::SP_MessageBoxInformation, dialog),
+                    0, 0, 2, 1, Qt::AlignTop);
+  layout->addWidget(newTextLabel(texts.heading, bold, dialog), 0, 1);
+  if (!texts.details.isEmpty()) layout->addWidget(newTextLabel(texts.details, dialog.font(), dialog), 1, 1);
+  layout->addWidget(buttons, 2, 0, 1, 2);
+}
+
+}  // namespace
+
+AlertAnswer QtAlerts::runModal(const Alert& alert) {
+  const bool isQuestion = !alert.alternateButton.empty();
+  AlertAnswer answer = isQuestion ? AlertAnswer::alternateButton : AlertAnswer::defaultButton;
+  const QPointer<QDialog> dialog(new QDialog(parentForAlert()));
+  dialog->setObjectName("alert");
+  dialog->setWindowTitle(QGuiApplication::applicationDisplayName());
+  dialog->setAccessibleName(QString::fromStdString(alert.title));
+  dialog->setAccessibleDescription(QString::fromStdString(alert.message));
+
+  auto* buttons = new QDialogButtonBox(dialog);
+  const std::string defaultText = alert.defaultButton.empty() ? localisation_.localised("OK") : alert.defaultButton;
+  QPushButton* defaultButton = addButton(*buttons, defaultText, QDialogButtonBox::AcceptRole, "alertDefaultButton");
+  if (isQuestion) addButton(*buttons, alert.alternateButton, QDialogButtonBox::RejectRole, "alertAlternateButton");
+  QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, [&] {
+    answer = AlertAnswer::defaultButton;
+    dialog->accept();
+  });
+  layOut(*dialog, alert, buttons);
+  defaultButton->setDefault(true);
+  defaultButton->setFocus();
+
+  dialog->exec();
+  const std::unique_ptr<QDialog> remaining(dialog);  // none if its parent took it along
+  return answer;
+}
+
+/// The alert that is already up, or the main window. A window that is not on the screen would take the alert with it.
+QWidget* QtAlerts::parentForAlert() const {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  const bool isOnScreen = mainWindow_ && mainWindow_->isVisible() && !mainWindow_->isMinimized();
+  return isOnScreen ? mainWindow_.data() : nullptr;
+}
+
+}  // namespace calvero

@@ -1,0 +1,29 @@
+#include "platform/qt/widget_text.h"
+
+#include <QTextDocument>
+
+namespace calvero {
+namespace {
+
+constexpr QChar kFirstStrongIsolate(0x2068);
+constexpr QChar kPopDirectionalIsolate(0x2069);
+
+}  // namespace
+
+QString toText(const std::string& text) {
+  return QString::fromStdString(text);
+}
+
+QString asTitle(const std::string& text) {
+  return toText(text).replace(u'&', QStringLiteral("&&"));
+}
+
+QString isolated(const QString& text) {
+  return text.isEmpty() ? text : kFirstStrongIsolate + text + kPopDirectionalIsolate;
+}
+
+QString plainToolTip(const QString& text) {
+  return text.isEmpty() ? text : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
+
+}  // namespace calvero

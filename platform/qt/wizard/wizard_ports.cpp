@@ -1,0 +1,66 @@
+#include "platform/qt/wizard/wizard_ports.h"
+
+#include <QGuiApplication>
+#include <array>
+
+#include "app/app_delegate.h"
+#include "methods/method_catalogue.h"
+#include "wipe/filler_names.h"
+
+namespace calvero {
+namespace {
+
+std::array<int, kMethodCount> passesOfTheMethods() {
+  std::array<int, kMethodCount> passes{};
+  for (const EraseMethod& method : kMethodCatalogue) passes.at(static_cast<std::size_t>(method.number)) = method.passes;
+  return passes;
+}
+
+/// Qt's own stand-ins for a display show nothing.
+bool isWithoutDisplay() {
+  const QString platform = QGuiApplication::platformName();
+  return platform == "offscreen" || platform == "minimal";
+}
+
+}  // namespace
+
+WizardPorts::WizardPorts(const SuiteServices& services)
+    : suite(services),
+      log([this](const std::string&) {
+        loop.post([this] {
+          if (onNotice) onNotice();
+        });
+      }),
+      threads([this](const std::string& failure) { log.line(failure); }),
+      alerts(services.texts),
+      volumes_([](const std::string& mountPath) {
+        return PosixFiles::bytesInLeftDirectory(mountPath, fillerDirectoryPath(mountPath));
+      }) {
+  window.setTexts(suite.texts);
+  window.setSizeFormatter(&AppDelegate::getFormattedStringForSize);
+  window.setPasses(passesOfTheMethods());
+  alerts.setMainWindow(&window);
+  if (isWithoutDisplay()) popUp.onUndisplayed = [this](const std::string& text) { log.line(text); };
+}
+
+Ports WizardPorts::ports() {
+  return {.alerts = alerts,
+          .clock = clock_,
+          .controls = controls,
+          .diskLookup = volumes_,
+          .eventLoop = loop,
+          .files = files_,
+          .informationFile = informationFile_,
+          .localisation = suite.texts,
+          .mountedVolumes = volumes_,
+          .popUpWindow = popUp,
+          .random = random_,
+          .suiteWeb = suite.web,
+          .log = log,
+          .systemNotifications = systemNotifications_,
+          .tagStore = suite.tags,
+          .threads = threads,
+          .workspace = suite.workspace};
+}
+
+}  // namespace calvero

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/linux/detached_threads.h"
+#include "platform/linux/kernel_random.h"
+#include "platform/linux/linux_volumes.h"
+#include "platform/linux/posix_files.h"
+#include "platform/linux/syslog_log.h"
+#include "platform/qt/event_dispatch.h"
+#include "platform/qt/main_window.h"
+#include "platform/qt/painting_clock.h"
+#include "platform/qt/pop_up_widget.h"
+#include "platform/qt/qt_alerts.h"
+#include "platform/qt/qt_event_loop.h"
+#include "platform/qt/wizard/wizard_controls.h"
+#include "platform/suite/plist_information_file.h"
+#include "ports/ports.h"
+#include "ports/system_notifications.h"
+
+namespace calvero {
+
+class Localisation;
+class SuiteWeb;
+class TagStore;
+class Workspace;
+
+/// What the program has before it has a window, and shares with whatever face it shows.
+struct SuiteServices {
+  TagStore& tags;
+  SuiteWeb& web;
+  Workspace& workspace;
+  Localisation& texts;
+};
+
+/// Nothing is ever received.
+class NoSystemNotifications : public SystemNotifications {
+ public:
+  void observe(const std::string&, const std::string&, std::function<void()>) override {}
+};
+
+/// Everything that the window gives the controller, and the window itself. Needs a QApplication.
+class WizardPorts {
+ public:
+  explicit WizardPorts(const SuiteServices& suite);
+  WizardPorts(const WizardPorts&) = delete;
+  WizardPorts& operator=(const WizardPorts&) = delete;
+
+  Ports ports();
+
+  /// What the log wants whoever ordered the run to know. Event loop thread.
+  std::function<void()> onNotice;
+
+  const SuiteServices suite;
+  SyslogLog log;
+  EventDispatch dispatch{log};
+  QtEventLoop loop{dispatch};
+  DetachedThreads threads;
+  MainWindow window;
+  PopUpWidget popUp;
+  WizardControls controls{window, popUp};
+  QtAlerts alerts;
+
+ private:
+  PaintingClock clock_;
+  PosixFiles files_;
+  LinuxVolumes volumes_;
+  KernelRandom random_;
+  PlistInformationFile informationFile_;
+  NoSystemNotifications systemNotifications_;
+};
+
+}  // namespace calvero

@@ -1,0 +1,62 @@
+#include "platform/qt/wizard/wizard_texts.h"
+
+#include "ports/localisation.h"
+#include "wipe/filler_names.h"
+
+namespace calvero {
+namespace {
+
+std::string filledIn(std::string text, const std::string& value) {
+  constexpr std::string_view kPlaceholder = "%1";
+  const auto at = text.find(kPlaceholder);
+  return at == std::string::npos ? text : text.replace(at, kPlaceholder.size(), value);
+}
+
+}  // namespace
+
+std::optional<std::string> refusalText(const Localisation& texts, const Error& error) {
+  switch (error.code) {
+    case ErrorCode::none:
+      return std::nullopt;
+    case ErrorCode::readOnly:
+      return texts.localised("Read only drive, please select other drives");
+    case ErrorCode::notPermitted:
+      return texts.localised(
+          "You are not allowed to write to this drive. Select another drive, or ask its "
+          "administrator.");
+    case ErrorCode::busy:
+      return texts.localised(
+          "This drive is being erased by another process. Wait until it has ended, or select "
+          "another drive.");
+    case ErrorCode::notFound:
+      return texts.localised("This drive is not connected any more. Press \"Reload Drives\".");
+    case ErrorCode::notOurs:
+      return filledIn(texts.localised("This drive holds a folder \"%1\" that was not made by Calvero. Rename or remove "
+                                      "it, then try again."),
+                      kFillerDirectoryName);
+    case ErrorCode::gone:
+      return texts.localised("This drive does not respond. Check its connection, then press \"Reload Drives\".");
+    case ErrorCode::exists:
+    case ErrorCode::full:
+    case ErrorCode::noHandles:
+    case ErrorCode::closed:
+    case ErrorCode::other:
+      break;
+  }
+  return texts.localised("Unknown Error Occured");
+}
+
+std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume) {
+  if (outcome != RunOutcome::finished) {
+    return filledIn(
+        texts.localised("The drive %1 was removed or has failed. Deleted data may still be readable on it."), volume);
+  }
+  if (isFlawed) {
+    return filledIn(texts.localised("Part of the free space of %1 could not be erased. Deleted data may still be "
+                                    "readable there."),
+                    volume);
+  }
+  return filledIn(texts.localised("The free space of %1 has been erased."), volume);
+}
+
+}  // namespace calvero

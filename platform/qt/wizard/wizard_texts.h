@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "ports/error.h"
+#include "wipe/wipe_run.h"
+
+namespace calvero {
+
+class Localisation;
+
+/// Why the volume may not be erased and what to do about it; nothing when it may.
+std::optional<std::string> refusalText(const Localisation& texts, const Error& error);
+
+/// How a run on the volume of that name has ended. A flawed one went to its end, but some writes failed or some space
+/// could not be covered.
+std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume);
+
+}  // namespace calvero

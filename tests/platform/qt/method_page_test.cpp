@@ -1,0 +1,119 @@
+#include "platform/qt/method_page.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+
+#include "platform/qt/label_button.h"
+#include "tests/platform/qt/window_fixture.h"
+
+namespace calvero::testing {
+namespace {
+
+using ::testing::ElementsAre;
+
+constexpr std::array kButtons{"butFastZeroWipe", "butRandomWipe",      "butDOD5220",       "butNAVSO",     "butNATO",
+                              "butVSITR",        "butFAST_ZERO_WRITE", "butPETER_GUTTMAN", "butNINTH_ALGO"};
+
+class MethodPageTest : public WindowTest {
+ protected:
+  MethodPageTest() {
+    window.setPasses({1, 1, 3, 1, 7, 7, 0, 35, 38});
+    window.onMethod = [this](int method) {
+      told.push_back(method);
+      if (follows) choose(method);
+    };
+  }
+  ~MethodPageTest() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
+
+  void choose(int method) {
+    for (int i = 0; i < 9; ++i) {
+      const auto button = static_cast<Control>(static_cast<int>(Control::butFastZeroWipe) + i);
+      i == method ? controls.turnOn(button) : controls.turnOff(button);
+    }
+  }
+
+  void showPage() {
+    choose(0);
+    controls.selectPage(Page::method);
+    show();
+  }
+
+  bool follows = true;
+  std::vector<int> told;
+};
+
+TEST_F(MethodPageTest, TellsTheSlotOfItsButtonAndOfItsLabel) {
+  showPage();
+  for (std::size_t i = 0; i < kButtons.size(); ++i) {
+    press(kButtons[i]);
+    press(QStringLiteral("algorithm_%1").arg(i + 1).toLatin1().constData());
+  }
+  EXPECT_THAT(told, ElementsAre(0, 0, 1, 1, 2, 2, 3, 3, 4, 4, 5, 5, 6, 6, 7, 7, 8, 8));
+}
+
+TEST_F(MethodPageTest, ChangesNothingByItself) {
+  follows = false;
+  showPage();
+  press("butNATO");
+  press("butFastZeroWipe");
+  EXPECT_FALSE(find<QAbstractButton>("butNATO")->isChecked());
+  EXPECT_TRUE(find<QAbstractButton>("butFastZeroWipe")->isChecked());
+}
+
+TEST_F(MethodPageTest, MovesThroughThePageWithTheArrowKeys) {
+  showPage();
+  for (int i = 0; i < 9; ++i) type(Qt::Key_Down);
+  EXPECT_THAT(told, ElementsAre(1, 3, 6, 2, 4, 5, 7, 8));
+  told.clear();
+  type(Qt::Key_Up);
+  type(Qt::Key_Left);
+  type(Qt::Key_Right);
+  EXPECT_THAT(told, ElementsAre(7, 5, 7));
+  EXPECT_EQ(focused(), "butPETER_GUTTMAN");
+}
+
+TEST_F(MethodPageTest, MirrorsTheArrowKeysFromRightToLeft) {
+  QApplication::setLayoutDirection(Qt::RightToLeft);
+  showPage();
+  type(Qt::Key_Left);
+  type(Qt::Key_Right);
+  EXPECT_THAT(told, ElementsAre(1, 0));
+}
+
+TEST_F(MethodPageTest, IsEnteredWithTheTabKeyAtTheMethodThatIsOn) {
+  showPage();
+  choose(4);
+  find("proceedBtn")->setFocus();
+  type(Qt::Key_Backtab);
+  EXPECT_EQ(focused(), "butNATO");
+  type(Qt::Key_Tab);
+  EXPECT_EQ(focused(), "proceedBtn");
+}
+
+TEST_F(MethodPageTest, ShowsAndSpeaksThePasses) {
+  controls.setText(Control::algorithm_9, "Ninth & last ");
+  EXPECT_EQ(find<QLabel>("passes_9")->text(), "Passes: 38");
+  EXPECT_EQ(find("butNINTH_ALGO")->accessibleName(), "Ninth & last, Passes: 38");
+}
+
+TEST_F(MethodPageTest, SaysThatAMethodWithoutPassesWritesNothing) {
+  const QString nothing = "Writes nothing: the free space is laid out and given back as it was.";
+  EXPECT_EQ(find("butFAST_ZERO_WRITE")->accessibleDescription(), nothing);
+  EXPECT_TRUE(find("algorithm_7")->toolTip().contains(nothing));
+  EXPECT_EQ(find("butFastZeroWipe")->accessibleDescription(), "");
+  EXPECT_EQ(find("algorithm_1")->toolTip(), "");
+}
+
+TEST_F(MethodPageTest, CutsNoLabelHoweverLongALanguageMakesIt) {
+  controls.setText(Control::algorithm_5,
+                   "The long name of a method in a language of long names, given here in full, "
+                   "so that it cannot stand in one line of the smallest window");
+  window.resize(window.minimumSizeHint());
+  showPage();
+  const auto* label = find<LabelButton>("algorithm_5");
+  EXPECT_GT(label->height(), 2 * label->fontMetrics().height());
+  EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+}
+
+}  // namespace
+}  // namespace calvero::testing
