@@ -14,7 +14,7 @@ namespace calvero {
 namespace {
 
 constexpr Colour kOrange{1.0, 119.0 / 255.0, 52.0 / 255.0, 1.0};
-constexpr std::chrono::seconds kTimeToReadTheMessage{3};
+constexpr std::chrono::seconds kTimeToReadOfTheAbort{3};
 
 /// How long a cancel waits without seeing the clean-up get on. A medium that hangs may never answer, and must not hold
 /// up the window.
@@ -85,7 +85,7 @@ void AppDelegate::endCancelledRemoteRun() {
   popUp(kOrange, "Remote Wiping Process has been aborted.");
   authentication_.SetValueForTag(kTagStatus, kStatusFailed);
   ports_.controls.selectPage(Page::volume);
-  ports_.clock.sleep(kTimeToReadTheMessage);
+  ports_.clock.sleep(kTimeToReadOfTheAbort);
   ports_.eventLoop.terminate();
 }
 

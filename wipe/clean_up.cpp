@@ -13,7 +13,7 @@ namespace calvero {
 namespace {
 
 constexpr Colour kGreen{0.0, 1.0, 0.0, 1.0};
-constexpr std::chrono::seconds kTimeToReadTheMessage{7};
+constexpr std::chrono::seconds kTimeToReadOfTheEnd{7};
 
 std::string withVolumeName(std::string format, const std::string& name) {
   const std::string placeholder = "%@";
@@ -85,7 +85,7 @@ void AppDelegate::removeFillerDirectory(WipeRun& run, const std::string& volumeP
 
 void AppDelegate::reportRemoteCompletion(WipeRun& run) {
   popUp(kGreen, withVolumeName(localised("Your admin successfuly completed\n Calvero on:%@"), order_.CDriveName));
-  ports_.clock.sleep(kTimeToReadTheMessage);
+  ports_.clock.sleep(kTimeToReadOfTheEnd);
   authentication_.SetValueForTag(kTagStatus, kStatusFinished);
   run.end(RunOutcome::finished);
   endApplication(run);

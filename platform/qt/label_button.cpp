@@ -1,6 +1,7 @@
 #include "platform/qt/label_button.h"
 
 #include <QPainter>
+#include <QStyleOption>
 
 #include "platform/qt/wrapped_text.h"
 
@@ -8,6 +9,7 @@ namespace calvero {
 namespace {
 
 constexpr int kMargin = 3;
+constexpr int kIndent = 4;
 constexpr Qt::Alignment kAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 
 }  // namespace
@@ -25,23 +27,34 @@ QString LabelButton::label() const {
   return text().replace(QStringLiteral("&&"), QStringLiteral("&")).trimmed();
 }
 
+void LabelButton::setFramed(bool framed) {
+  framed_ = framed;
+  update();
+}
+
 int LabelButton::heightForWidth(int width) const {
-  return WrappedText(label(), *this, kAlignment, width).height() + 2 * kMargin;
+  return WrappedText(label(), *this, kAlignment, width - 2 * kIndent).height() + 2 * kMargin;
 }
 
 QSize LabelButton::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(label()) + 2, fontMetrics().height() + 2 * kMargin};
+  return {fontMetrics().horizontalAdvance(label()) + 2 + 2 * kIndent, fontMetrics().height() + 2 * kMargin};
 }
 
 QSize LabelButton::minimumSizeHint() const {
-  return {WrappedText::widthOfLongestWord(label(), fontMetrics()), fontMetrics().height() + 2 * kMargin};
+  return {WrappedText::widthOfLongestWord(label(), fontMetrics()) + 2 * kIndent, fontMetrics().height() + 2 * kMargin};
 }
 
 void LabelButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const bool pointedAt = underMouse() && isEnabled();
   painter.setPen(palette().color(pointedAt ? QPalette::Link : QPalette::WindowText));
-  WrappedText(label(), *this, kAlignment, width()).draw(painter, rect());
+  const QRect room = rect().adjusted(kIndent, 0, -kIndent, 0);
+  WrappedText(label(), *this, kAlignment, room.width()).draw(painter, room);
+  if (!framed_) return;
+  QStyleOptionFocusRect frame;
+  frame.initFrom(this);
+  frame.state |= QStyle::State_KeyboardFocusChange;  // some styles draw none otherwise
+  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
 }
 
 }  // namespace calvero

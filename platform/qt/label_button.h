@@ -13,6 +13,9 @@ class LabelButton : public QPushButton {
   /// The title as it is read, without doubled '&'.
   [[nodiscard]] QString label() const;
 
+  /// Whether the focus frame is drawn: for the button beside, which has the keyboard but no text to frame.
+  void setFramed(bool framed);
+
   [[nodiscard]] bool hasHeightForWidth() const override { return true; }
   [[nodiscard]] int heightForWidth(int width) const override;
   [[nodiscard]] QSize sizeHint() const override;
@@ -20,6 +23,9 @@ class LabelButton : public QPushButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool framed_ = false;
 };
 
 }  // namespace calvero

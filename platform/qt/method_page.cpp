@@ -83,8 +83,12 @@ void MethodPage::focusCurrent() {
   (on == buttons_.end() ? buttons_.front() : *on)->setFocus(Qt::OtherFocusReason);
 }
 
-// Before the scroll area takes them for its own.
+// Takes the arrow keys before the scroll area does.
 bool MethodPage::eventFilter(QObject* watched, QEvent* event) {
+  const bool focused = event->type() == QEvent::FocusIn;
+  if (focused || event->type() == QEvent::FocusOut) {
+    for (std::size_t i = 0; i < kMethods; ++i) labels_[i]->setFramed(focused && buttons_[i] == watched);
+  }
   const int step = event->type() == QEvent::KeyPress ? stepFor(static_cast<QKeyEvent*>(event)->key()) : 0;
   if (step == 0) return QWidget::eventFilter(watched, event);
   moveBy(step);

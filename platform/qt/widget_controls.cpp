@@ -239,7 +239,7 @@ void WidgetControls::leaveTaskBar() {
 }
 
 void WidgetControls::moveToOriginOf(Control child, Control parent) {
-  moveLowerLeft(*as<QWidget>(child), as<QWidget>(parent)->frameGeometry().bottomLeft());
+  moveLowerLeft(*as<QWidget>(child), frameOf(*as<QWidget>(parent)).bottomLeft());
   if (follower_ != nullptr) follower_->keepPlace();
 }
 
@@ -251,10 +251,11 @@ void WidgetControls::attachAbove(Control child, Control parent) {
 void WidgetControls::makeImmovable(Control window) {
   auto* widget = as<QWidget>(window);
   const bool shown = widget->isVisible();
-  const QPoint corner = widget->frameGeometry().bottomLeft();
+  const QPoint corner = frameOf(*widget).bottomLeft();
   widget->setWindowFlag(Qt::FramelessWindowHint);  // nothing to take hold of; hides it
-  widget->setVisible(shown);
   moveLowerLeft(*widget, corner);
+  widget->setVisible(shown);
+  if (follower_ != nullptr && follower_->parent() == widget) follower_->pin();
 }
 
 }  // namespace calvero

@@ -7,6 +7,9 @@
 
 namespace calvero {
 
+/// The window with its frame, as it stands on the screen.
+QRect frameOf(const QWidget& window);
+
 /// Moves the lower left corner of the window's frame to `corner`, the lowest pixel on the left.
 void moveLowerLeft(QWidget& window, const QPoint& corner);
 
@@ -17,14 +20,21 @@ class WindowFollower : public QObject {
 
   /// Where `child` stands now is its place from now on.
   void keepPlace();
+  /// From now on `child` returns to its place whoever moves it, unless the display system insists on another.
+  void pin();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void place();
+  void returnSoon();
+
   QPointer<QWidget> child_;
   QPointer<QWidget> parent_;
   QPoint offset_;  // between the frames' lower left corners
+  bool pinned_ = false;
+  int vainReturns_ = 0;
 };
 
 }  // namespace calvero

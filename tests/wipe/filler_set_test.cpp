@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/world.h"
+#include "tests/wipe/alert_texts.h"
 #include "wipe/filler_names.h"
 
 namespace calvero {
@@ -13,9 +14,6 @@ using testing::FileCall;
 using ::testing::IsEmpty;
 using testing::Steps;
 using testing::World;
-
-constexpr const char* kUnknownErrorAlert =
-    "alert \"Information\" \"Unknown Error Occured\" \"Relaunch the application\" \"\"";
 
 class FillerSet : public ::testing::Test {
  protected:

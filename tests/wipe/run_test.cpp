@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/world.h"
+#include "tests/wipe/alert_texts.h"
 
 namespace calvero {
 namespace {
@@ -17,9 +18,6 @@ constexpr const char* kQuestion =
 constexpr const char* kNotice =
     "alert \"Please!! \n Close all the files related to drive , as well as do not add any data to drive during "
     "process.\" \"\" \"\" \"\"";
-constexpr const char* kUnknownErrorAlert =
-    "alert \"Information\" \"Unknown Error Occured\" \"Relaunch the application\" \"\"";
-
 Steps joined(std::initializer_list<Steps> parts) {
   Steps all;
   for (const Steps& part : parts) all.insert(all.end(), part.begin(), part.end());

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/world.h"
+#include "tests/wipe/alert_texts.h"
 
 namespace calvero {
 namespace {
@@ -11,9 +12,6 @@ using testing::FileCall;
 using ::testing::IsEmpty;
 using testing::Steps;
 using testing::World;
-
-constexpr const char* kUnknownErrorAlert =
-    "alert \"Information\" \"Unknown Error Occured\" \"Relaunch the application\" \"\"";
 
 class FreeSpaceWipe : public ::testing::Test {
  protected:

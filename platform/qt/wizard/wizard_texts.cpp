@@ -6,10 +6,15 @@
 namespace calvero {
 namespace {
 
+// Keeps the value in one piece in a sentence of the other direction of writing.
+constexpr const char* kIsolate = "\u2068";
+constexpr const char* kEndOfIsolate = "\u2069";
+
 std::string filledIn(std::string text, const std::string& value) {
   constexpr std::string_view kPlaceholder = "%1";
   const auto at = text.find(kPlaceholder);
-  return at == std::string::npos ? text : text.replace(at, kPlaceholder.size(), value);
+  if (at == std::string::npos) return text;
+  return text.replace(at, kPlaceholder.size(), kIsolate + value + kEndOfIsolate);
 }
 
 }  // namespace

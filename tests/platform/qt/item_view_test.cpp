@@ -10,7 +10,7 @@
 namespace calvero::testing {
 namespace {
 
-constexpr int kWaitMilliseconds = 10'000;
+constexpr int kPaintWaitMilliseconds = 10'000;
 
 class CountedTile : public ItemView {
  public:
@@ -28,7 +28,7 @@ class ItemViewTest : public ::testing::Test {
  protected:
   void show() {
     tile.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&tile, kWaitMilliseconds));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&tile, kPaintWaitMilliseconds));
   }
 
   RedisplayClock clock;
@@ -95,30 +95,30 @@ TEST_F(ItemViewTest, WritesASelectedTitleInTheFittingColour) {
 TEST_F(ItemViewTest, IsPaintedAgainAndAgainWhileItIsShown) {
   show();
   const int before = tile.paints;
-  EXPECT_TRUE(QTest::qWaitFor([&] { return tile.paints >= before + 3; }, kWaitMilliseconds));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return tile.paints >= before + 3; }, kPaintWaitMilliseconds));
   EXPECT_TRUE(clock.isRunning());
 }
 
 TEST_F(ItemViewTest, RestsWhileItIsHiddenAndGoesOnWhenItIsShown) {
   show();
   tile.hide();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !clock.isRunning(); }, kWaitMilliseconds));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !clock.isRunning(); }, kPaintWaitMilliseconds));
   const int before = tile.paints;
   show();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return tile.paints >= before + 3; }, kWaitMilliseconds));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return tile.paints >= before + 3; }, kPaintWaitMilliseconds));
 }
 
 TEST_F(ItemViewTest, RestsWhileItsWindowIsMinimised) {
   show();
   tile.showMinimized();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !clock.isRunning(); }, kWaitMilliseconds));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !clock.isRunning(); }, kPaintWaitMilliseconds));
   tile.showNormal();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return clock.isRunning(); }, kWaitMilliseconds));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return clock.isRunning(); }, kPaintWaitMilliseconds));
 }
 
 TEST_F(ItemViewTest, AsksForRedisplayWhenItsSelectionChanges) {
   show();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return tile.paints > 0; }, kWaitMilliseconds));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return tile.paints > 0; }, kPaintWaitMilliseconds));
   tile.setSelected(true);
   EXPECT_TRUE(tile.selected());
   const int before = tile.paints;
@@ -133,7 +133,7 @@ TEST(RedisplayClock, ForgetsAViewThatIsGone) {
     clock.redisplay(&view);
     EXPECT_TRUE(clock.isRunning());
   }
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !clock.isRunning(); }, kWaitMilliseconds));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !clock.isRunning(); }, kPaintWaitMilliseconds));
 }
 
 }  // namespace

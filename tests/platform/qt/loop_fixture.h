@@ -11,6 +11,9 @@
 
 namespace calvero::testing {
 
+/// Longer than anything that is waited for takes.
+constexpr std::chrono::seconds kLongWait{20};
+
 /// An event loop with its log. A test that hangs ends after a while, as a failure.
 class LoopFixture : public ::testing::Test {
  protected:

@@ -90,6 +90,16 @@ TEST_F(MethodPageTest, IsEnteredWithTheTabKeyAtTheMethodThatIsOn) {
   EXPECT_EQ(focused(), "proceedBtn");
 }
 
+TEST_F(MethodPageTest, FramesTheLabelWhoseButtonHasTheKeyboard) {
+  controls.setText(Control::algorithm_5, "Fifth");
+  showPage();
+  const QImage plain = find("algorithm_5")->grab().toImage();
+  find("butNATO")->setFocus();
+  EXPECT_NE(find("algorithm_5")->grab().toImage(), plain);
+  find("proceedBtn")->setFocus();
+  EXPECT_EQ(find("algorithm_5")->grab().toImage(), plain);
+}
+
 TEST_F(MethodPageTest, ShowsAndSpeaksThePasses) {
   controls.setText(Control::algorithm_9, "Ninth & last ");
   EXPECT_EQ(find<QLabel>("passes_9")->text(), "Passes: 38");

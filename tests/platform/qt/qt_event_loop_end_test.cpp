@@ -14,17 +14,15 @@ using std::chrono::seconds;
 
 class QtEventLoopEndTest : public testing::LoopFixture {};
 
-constexpr seconds kLong{20};
-
 TEST_F(QtEventLoopEndTest, TerminateFromAnotherThreadEndsTheWaitsInsideTheLoop) {
   std::thread ender;
   bool outerReturned = false;
   runWith([&] {
     loop.post([&] {
       ender = std::thread([&] { loop.terminate(); });
-      EXPECT_FALSE(loop.serveUntil([] { return false; }, kLong));
+      EXPECT_FALSE(loop.serveUntil([] { return false; }, testing::kLongWait));
     });
-    EXPECT_FALSE(loop.serveUntil([] { return false; }, kLong));
+    EXPECT_FALSE(loop.serveUntil([] { return false; }, testing::kLongWait));
     outerReturned = true;
   });
   ender.join();
@@ -55,7 +53,7 @@ TEST_F(QtEventLoopEndTest, AfterTerminateNoTaskAndNoTimerIsRunAndNoWaitIsBegun) 
     loop.post([&] { ran = true; });
     loop.startTimer(milliseconds(0), TimerKind::repeating, [&] { ran = true; });
     loop.terminate();
-    EXPECT_FALSE(loop.serveUntil([] { return false; }, kLong));
+    EXPECT_FALSE(loop.serveUntil([] { return false; }, testing::kLongWait));
   });
   QCoreApplication::processEvents();
   EXPECT_FALSE(ran);

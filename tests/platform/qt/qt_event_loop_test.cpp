@@ -19,8 +19,6 @@ using std::chrono::seconds;
 
 class QtEventLoopTest : public testing::LoopFixture {};
 
-constexpr seconds kLong{20};
-
 std::vector<int> numbersBelow(int end) {
   std::vector<int> numbers;
   for (int i = 0; i < end; ++i) numbers.push_back(i);
@@ -170,7 +168,7 @@ TEST_F(QtEventLoopTest, ServesOtherEventsUntilTheConditionHolds) {
       answered = true;
     });
     loop.post([&] { order.push_back(4); });
-    EXPECT_TRUE(loop.serveUntil([&] { return answered; }, kLong));
+    EXPECT_TRUE(loop.serveUntil([&] { return answered; }, testing::kLongWait));
     order.push_back(3);
   });
   EXPECT_EQ(order, (std::vector<int>{1, 2, 3}));
@@ -180,7 +178,7 @@ TEST_F(QtEventLoopTest, AConditionThatHoldsAlreadyServesNothing) {
   bool served = false;
   runOnly([&] {
     loop.post([&] { served = true; });
-    EXPECT_TRUE(loop.serveUntil([] { return true; }, kLong));
+    EXPECT_TRUE(loop.serveUntil([] { return true; }, testing::kLongWait));
     EXPECT_FALSE(loop.serveUntil([] { return false; }, milliseconds(0)));
     EXPECT_FALSE(served);
   });
@@ -190,7 +188,7 @@ TEST_F(QtEventLoopTest, ServesUserInputWhileItWaitsAndAsksAfterIt) {
   CountingWidget widget;
   runOnly([&] {
     QCoreApplication::postEvent(&widget, new QEvent(QEvent::User));
-    EXPECT_TRUE(loop.serveUntil([&] { return widget.seen == 1; }, kLong));
+    EXPECT_TRUE(loop.serveUntil([&] { return widget.seen == 1; }, testing::kLongWait));
   });
 }
 
@@ -210,10 +208,10 @@ TEST_F(QtEventLoopTest, AWaitInsideAWaitLeavesTheOuterOneInForce) {
     loop.post([&] {
       loop.post([&] { outer = true; });
       loop.post([&] { inner = true; });
-      EXPECT_TRUE(loop.serveUntil([&] { return inner; }, kLong));
+      EXPECT_TRUE(loop.serveUntil([&] { return inner; }, testing::kLongWait));
       EXPECT_TRUE(outer);
     });
-    EXPECT_TRUE(loop.serveUntil([&] { return outer; }, kLong));
+    EXPECT_TRUE(loop.serveUntil([&] { return outer; }, testing::kLongWait));
     EXPECT_TRUE(inner);
   });
 }

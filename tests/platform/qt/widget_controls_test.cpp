@@ -220,6 +220,21 @@ TEST_F(WidgetControlsTest, LetsTheCompletionWindowFollowTheMainWindow) {
   EXPECT_TRUE(completed->windowFlags().testFlag(Qt::FramelessWindowHint));
 }
 
+TEST_F(WidgetControlsTest, BringsAnImmovableWindowBackToItsPlace) {
+  show();
+  controls.bringToFront(Control::windowCompleted);
+  auto* completed = find("windowCompleted");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(completed, kWaitMilliseconds));
+  controls.moveToOriginOf(Control::windowCompleted, Control::window);
+  controls.attachAbove(Control::windowCompleted, Control::window);
+  const auto isInPlace = [&] { return completed->frameGeometry().bottomLeft() == window.frameGeometry().bottomLeft(); };
+  controls.makeImmovable(Control::windowCompleted);
+  EXPECT_TRUE(QTest::qWaitFor(isInPlace, kWaitMilliseconds));
+  completed->move(completed->pos() + QPoint(50, -50));
+  EXPECT_FALSE(isInPlace());
+  EXPECT_TRUE(QTest::qWaitFor(isInPlace, kWaitMilliseconds));
+}
+
 TEST_F(WidgetControlsTest, KeepsTheCloudButtonsLookWhilePressedOnceNothingHighlights) {
   auto* button = find<QAbstractButton>("buttonCloud");
   controls.setAttributedTitle(Control::buttonCloud, {"Cloud & Control", Colour{1.0, 1.0, 1.0, 1.0}, 11.0});

@@ -85,7 +85,7 @@ class WizardFixture : public ::testing::Test {
       QWidget* alert = QApplication::activeModalWidget();
       auto* pressed = alert == nullptr ? nullptr : alert->findChild<QAbstractButton*>(button);
       if (pressed == nullptr) return answerNextAlert(button);
-      for (const QLabel* label : alert->findChildren<QLabel*>()) alertText += label->text().toStdString() + "\n";
+      for (const QLabel* label : alert->findChildren<QLabel*>()) alertText += textOf(*label) + "\n";
       pressed->click();
     });
   }
@@ -94,13 +94,9 @@ class WizardFixture : public ::testing::Test {
   [[nodiscard]] Kind* named(const char* name) {
     return ports.window.findChild<Kind*>(name);
   }
-  [[nodiscard]] std::string text(const char* label) {
-    const auto* elided = qobject_cast<ElidedLabel*>(named<QLabel>(label));
-    return (elided != nullptr ? elided->text() : named<QLabel>(label)->text())
-        .remove(QChar(0x2068))
-        .remove(QChar(0x2069))
-        .toStdString();
-  }
+  [[nodiscard]] std::string text(const char* label) { return textOf(*named<QLabel>(label)); }
+  /// What the completion window says.
+  [[nodiscard]] std::string outcome() { return textOf(*completed().findChild<QLabel*>("outcomeText")); }
   [[nodiscard]] int page() { return named<QStackedWidget>("tabView")->currentIndex(); }
   void press(const char* button) { named<QAbstractButton>(button)->click(); }
   /// From the volume page into a run.
@@ -165,6 +161,15 @@ class WizardFixture : public ::testing::Test {
   }
 
  private:
+  /// A text without the invisible marks that set a name apart from its surroundings.
+  static std::string textOf(const QLabel& label) {
+    const auto* elided = qobject_cast<const ElidedLabel*>(&label);
+    return (elided != nullptr ? elided->text() : label.text())
+        .remove(QChar(0x2068))
+        .remove(QChar(0x2069))
+        .toStdString();
+  }
+
   std::promise<void> release_;
   std::shared_future<void> released_{release_.get_future()};
 };

@@ -201,8 +201,7 @@ TEST_F(WindowSession, ShowsTheCompletionWindowOfAFinishedRunAndReturnsWithItsOk)
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
     EXPECT_EQ(page(), 2);
-    EXPECT_THAT(completed().findChild<QLabel*>("outcomeText")->text().toStdString(),
-                HasSubstr("The free space of DATA has been erased."));
+    EXPECT_THAT(outcome(), HasSubstr("The free space of DATA has been erased."));
     QTest::keyClick(&completed(), Qt::Key_Return);
     ASSERT_TRUE(comesTrue([this] { return page() == 0; }));
     EXPECT_FALSE(completed().isVisible());
@@ -231,8 +230,7 @@ TEST_F(WindowSession, WarnsWhenWritesOfAFinishedRunFailed) {
     files.script.failAt(FileCall::fsync, 2, ErrorCode::other);
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
-    EXPECT_THAT(completed().findChild<QLabel*>("outcomeText")->text().toStdString(),
-                HasSubstr("Part of the free space of DATA could not be erased."));
+    EXPECT_THAT(outcome(), HasSubstr("Part of the free space of DATA could not be erased."));
   });
 }
 
@@ -242,8 +240,7 @@ TEST_F(WindowSession, WarnsWhenSpaceCouldNotBeHeld) {
     files.setHandleLimit(0);
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
-    EXPECT_THAT(completed().findChild<QLabel*>("outcomeText")->text().toStdString(),
-                HasSubstr("Part of the free space of DATA could not be erased."));
+    EXPECT_THAT(outcome(), HasSubstr("Part of the free space of DATA could not be erased."));
   });
 }
 
@@ -255,8 +252,7 @@ TEST_F(WindowSession, TellsAVolumeThatWasLostBetweenTwoFilesAndListsTheDrivesAne
     files.script.before(FileCall::pwrite, 2, [this] { unmountVolume("DATA"); });
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
-    EXPECT_THAT(completed().findChild<QLabel*>("outcomeText")->text().toStdString(),
-                HasSubstr("The drive DATA was removed or has failed."));
+    EXPECT_THAT(outcome(), HasSubstr("The drive DATA was removed or has failed."));
     ASSERT_TRUE(comesTrue([this] { return page() == 0; }));
     EXPECT_EQ(app->shell().wipingProcessOn, 0) << "the window can be closed again";
     QTest::keyClick(&completed(), Qt::Key_Escape);

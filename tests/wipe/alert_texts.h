@@ -1,0 +1,9 @@
+#pragma once
+
+namespace calvero {
+
+/// The journal's entry for the alert that ends the application.
+constexpr const char* kUnknownErrorAlert =
+    "alert \"Information\" \"Unknown Error Occured\" \"Relaunch the application\" \"\"";
+
+}  // namespace calvero
