@@ -89,7 +89,7 @@ class Files {
   virtual bool exists(const std::string& path) = 0;
 
   /// Whether `createFillerDirectory` could succeed now. Creates and changes nothing. Codes: `notPermitted`,
-  /// `readOnly`, `busy`, `notOurs`, `notFound`, `gone`.
+  /// `readOnly`, `busy`, `notOurs`, `notFound`, `gone`; the last also when the volume does not answer for seconds.
   virtual Error checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) = 0;
 
   /// Makes the filler directory, or takes over the one an interrupted run left, and locks it. It is taken over only if

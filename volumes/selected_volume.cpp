@@ -70,7 +70,7 @@ void AppDelegate::setSelectedVolumeDescription() {
 Error AppDelegate::checkSelectedVolume() {
   const std::string name = nameSelectedVolume();
   const auto path = getVolumePath(name);
-  if (!path || !ports_.files.exists(*path)) return {ErrorCode::notFound, "look up", name, "it is not mounted any more"};
+  if (!path) return {ErrorCode::notFound, "look up", name, "it is not mounted any more"};
   return ports_.files.checkFillerDirectory(*path, fillerDirectoryPath(*path));
 }
 

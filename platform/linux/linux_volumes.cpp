@@ -5,10 +5,12 @@
 #include <sys/statvfs.h>
 
 #include <algorithm>
+#include <chrono>
 #include <system_error>
 
 #include "platform/linux/block_device.h"
 #include "platform/linux/format_description.h"
+#include "platform/linux/patient_question.h"
 #include "platform/linux/posix_error.h"
 #include "platform/linux/reserved_blocks.h"
 #include "platform/linux/volume_names.h"
@@ -18,9 +20,12 @@ namespace calvero {
 namespace {
 
 bool isFolder(const std::string& path) {
-  struct statx found = {};
-  const int result = ::statx(AT_FDCWD, path.c_str(), AT_NO_AUTOMOUNT | AT_SYMLINK_NOFOLLOW, STATX_TYPE, &found);
-  return result == 0 && S_ISDIR(found.stx_mode);
+  PatientQuestion<bool> question([path] {
+    struct statx found = {};
+    const int result = ::statx(AT_FDCWD, path.c_str(), AT_NO_AUTOMOUNT | AT_SYMLINK_NOFOLLOW, STATX_TYPE, &found);
+    return result == 0 && S_ISDIR(found.stx_mode);
+  });
+  return question.answerBy(endOfPatience()).value_or(true);  // a volume that hangs is listed all the same
 }
 
 std::optional<struct statvfs> statisticsOf(const std::string& mountPath) {
@@ -52,21 +57,33 @@ std::vector<MountedVolume> LinuxVolumes::mountedVolumes() {
   } catch (const std::system_error&) {
     return {};
   }
+  std::vector<PatientQuestion<Figures>> figures;
+  for (const Mount& mount : mounts) {
+    figures.emplace_back([mount, reclaimable = reclaimableBytes_] { return figuresOf(mount, reclaimable); });
+  }
+  const auto deadline = endOfPatience();
   std::vector<MountedVolume> volumes;
   std::vector<Identity> identities;
   std::vector<std::string> labels;
-  for (const Mount& mount : mounts) {
-    identities.push_back(identityOf(mount));
-    labels.push_back(describe(mount, volumes.emplace_back()));
+  for (std::size_t i = 0; i < mounts.size(); ++i) {
+    identities.push_back(identityOf(mounts[i]));
+    labels.push_back(describe(mounts[i], volumes.emplace_back()));
+    const Figures answered = figures[i].answerBy(deadline).value_or(Figures{});
+    volumes[i].availableBytes = answered.availableBytes;
+    volumes[i].totalBytes = answered.totalBytes;
+    volumes[i].readOnly = answered.readOnly;
   }
   giveNames(volumes, std::move(identities), labels);
   return volumes;
 }
 
 std::optional<bool> LinuxVolumes::isReadOnly(const std::string& mountPath) {
-  const auto statistics = statisticsOf(mountPath);
-  if (!statistics) return {};
-  return (statistics->f_flag & ST_RDONLY) != 0;
+  PatientQuestion<std::optional<bool>> question([mountPath]() -> std::optional<bool> {
+    const auto statistics = statisticsOf(mountPath);
+    if (!statistics) return {};
+    return (statistics->f_flag & ST_RDONLY) != 0;
+  });
+  return question.answerBy(endOfPatience()).value_or(std::nullopt);
 }
 
 std::optional<std::string> LinuxVolumes::mountPath(const std::string& name) {
@@ -104,17 +121,17 @@ std::string LinuxVolumes::describe(const Mount& mount, MountedVolume& volume) {
   volume.formatDescription = formatDescription(mount, content);
   volume.local = !isNetworkFileSystem(mount);
   volume.removable = device != 0 && isOnRemovableDisk(device, paths_.sysfs);
-  if (!isAutomount(mount)) measure(mount, volume);
   return firstShown({label.value_or(content.label), lastPartOf(mount.path), mount.path});
 }
 
-void LinuxVolumes::measure(const Mount& mount, MountedVolume& volume) const {
-  const auto statistics = statisticsOf(volume.mountPath);
-  if (!statistics) return;
+LinuxVolumes::Figures LinuxVolumes::figuresOf(const Mount& mount, const ReclaimableBytes& reclaimableBytes) {
+  if (isAutomount(mount)) return {};  // asking it would mount something
+  const auto statistics = statisticsOf(mount.path);
+  if (!statistics) return {};
   const std::uint64_t freeBlocks = mayUseReservedBlocks(mount) ? statistics->f_bfree : statistics->f_bavail;
-  volume.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes_(volume.mountPath);
-  volume.totalBytes = statistics->f_blocks * statistics->f_frsize;
-  volume.readOnly = (statistics->f_flag & ST_RDONLY) != 0;
+  return {.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes(mount.path),
+          .totalBytes = statistics->f_blocks * statistics->f_frsize,
+          .readOnly = (statistics->f_flag & ST_RDONLY) != 0};
 }
 
 void LinuxVolumes::giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,

@@ -31,7 +31,8 @@ class LinuxVolumes : public MountedVolumes, public DiskLookup {
 
   explicit LinuxVolumes(ReclaimableBytes reclaimableBytes, KernelPaths paths = {});
 
-  /// Empty when the mount table cannot be read. Automounters are not looked into: that would mount something.
+  /// Empty when the mount table cannot be read. Automounters are not looked into: that would mount something. Volumes
+  /// that do not answer within two seconds are listed without their figures.
   std::vector<MountedVolume> mountedVolumes() override;
   std::optional<bool> isReadOnly(const std::string& mountPath) override;
 
@@ -56,9 +57,16 @@ class LinuxVolumes : public MountedVolumes, public DiskLookup {
 
   [[nodiscard]] Identity identityOf(const Mount& mount) const;
   [[nodiscard]] std::optional<Identity> listedUnder(const std::string& name);
-  /// Fills in all but the name, and gives the label that the volume would be named by.
+  struct Figures {
+    std::uint64_t availableBytes = 0;
+    std::uint64_t totalBytes = 0;
+    bool readOnly = false;
+  };
+
+  /// Fills in all but the name and the figures, and gives the label that the volume would be named by.
   std::string describe(const Mount& mount, MountedVolume& volume);
-  void measure(const Mount& mount, MountedVolume& volume) const;
+  /// Waits for the volume, however long it takes to answer.
+  static Figures figuresOf(const Mount& mount, const ReclaimableBytes& reclaimableBytes);
   void giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,
                  const std::vector<std::string>& labels);
 

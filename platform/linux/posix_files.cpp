@@ -9,6 +9,7 @@
 
 #include "platform/linux/filler_claim.h"
 #include "platform/linux/folder_contents.h"
+#include "platform/linux/patient_question.h"
 #include "platform/linux/posix_error.h"
 #include "platform/linux/posix_filler_directory.h"
 
@@ -48,14 +49,7 @@ Error prepare(const FillerPlace& place, const OpenFolder& directory) {
   return error;
 }
 
-}  // namespace
-
-bool PosixFiles::exists(const std::string& path) {
-  struct stat ignored = {};
-  return retryInterrupted([&] { return ::stat(path.c_str(), &ignored); }) == 0;
-}
-
-Error PosixFiles::checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
+Error whyNoFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
   Error error;
   const auto place = FillerPlace::open(volumePath, directoryPath, error);
   if (!place) return error;
@@ -67,6 +61,20 @@ Error PosixFiles::checkFillerDirectory(const std::string& volumePath, const std:
     return (properties.f_flag & ST_RDONLY) != 0 ? posixError("fstatvfs", directoryPath, EROFS) : Error{};
   }
   return error.code == ErrorCode::notFound ? place->checkWritable() : error;
+}
+
+}  // namespace
+
+bool PosixFiles::exists(const std::string& path) {
+  struct stat ignored = {};
+  return retryInterrupted([&] { return ::stat(path.c_str(), &ignored); }) == 0;
+}
+
+Error PosixFiles::checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
+  PatientQuestion<Error> question(
+      [volumePath, directoryPath] { return whyNoFillerDirectory(volumePath, directoryPath); });
+  const auto answer = question.answerBy(endOfPatience());
+  return answer.value_or(Error{ErrorCode::gone, "open", volumePath, "it does not answer"});
 }
 
 std::unique_ptr<FillerDirectory> PosixFiles::createFillerDirectory(const std::string& volumePath,

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/linux/linux_volumes.h"
+#include "platform/linux/posix_files.h"
 #include "platform/linux/volume_label.h"
 #include "tests/platform/linux/mounted_images.h"
 
@@ -178,6 +179,27 @@ TEST_F(RealVolumes, AreAllListedAlthoughOneIsDead) {
   EXPECT_EQ(volume->formatDescription, "SSHFS");
   EXPECT_FALSE(volume->local);
   EXPECT_EQ(listedAt(alive)->name, "CALVEROALIVE");
+}
+
+TEST_F(RealVolumes, AreAllListedAlthoughOneHangs) {
+  const std::string hanging = makeFolder("hanging");
+  const std::string alive = makeFolder("alive");
+  const Descriptor service(::open("/dev/fuse", O_RDWR | O_CLOEXEC));
+  if (!service.isOpen()) GTEST_SKIP() << "there is no /dev/fuse";
+  const std::string options = "fd=" + std::to_string(service.get()) + ",rootmode=40000,user_id=0,group_id=0";
+  ASSERT_TRUE(mount("nobody@nowhere:", hanging, "fuse.sshfs", 0, options));  // and nobody answers its requests
+  const auto device = mountExt4(alive, "CALVEROALIVE");
+  ASSERT_TRUE(device);
+  const auto listed = volumes_.mountedVolumes();
+  const auto isAt = [&](const std::string& path) {
+    return std::find_if(listed.begin(), listed.end(), [&](const auto& volume) { return volume.mountPath == path; });
+  };
+  ASSERT_NE(isAt(hanging), listed.end());
+  EXPECT_EQ(isAt(hanging)->availableBytes, 0U);
+  ASSERT_NE(isAt(alive), listed.end());
+  EXPECT_EQ(isAt(alive)->name, "CALVEROALIVE");
+  EXPECT_EQ(volumes_.isReadOnly(hanging), std::nullopt);
+  EXPECT_EQ(PosixFiles().checkFillerDirectory(hanging, hanging + "/.filler").code, ErrorCode::gone);
 }
 
 TEST_F(RealVolumes, BehindAFuseDriverAreDescribedByTheirDevice) {
