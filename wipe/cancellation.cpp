@@ -20,11 +20,6 @@ constexpr std::chrono::seconds kTimeToReadOfTheAbort{3};
 /// up the window.
 constexpr std::chrono::seconds kTimeForASignOfLife{8};
 
-std::uint64_t cleanUpSteps(const WipeRun& run) {
-  const auto directory = run.directory();
-  return directory ? directory->cleanUpSteps() : 0;
-}
-
 }  // namespace
 
 void AppDelegate::cancelWipe() {
@@ -61,13 +56,15 @@ void AppDelegate::removeFilesAside(const RunPtr& run) {
     *removed = true;
     ports_.eventLoop.post([] {});
   });
+  const auto directory = run->directory();  // the worker lets go of it when it ends
+  const auto cleanUpSteps = [&] { return directory ? directory->cleanUpSteps() : 0; };
   cancelWaits_ = true;
   bool isRemoved = false;
   std::uint64_t steps = 0;
   do {
-    steps = cleanUpSteps(*run);
+    steps = cleanUpSteps();
     isRemoved = ports_.eventLoop.serveUntil([removed] { return removed->load(); }, kTimeForASignOfLife);
-  } while (!isRemoved && cleanUpSteps(*run) != steps);
+  } while (!isRemoved && cleanUpSteps() != steps);
   cancelWaits_ = false;
   if (!isRemoved) ports_.log.notice("the volume does not answer; the filler files are removed as soon as it does");
 }

@@ -77,7 +77,18 @@ std::vector<MountedVolume> LinuxVolumes::mountedVolumes() {
   return volumes;
 }
 
+bool LinuxVolumes::isEmergencyReadOnly(const std::string& mountPath) const {
+  try {
+    const std::vector<Mount> table = readMountTable(paths_.mountTable);
+    const Mount* mount = MountTree(table).reachedAt(mountPath);
+    return mount != nullptr && mount->emergencyReadOnly;
+  } catch (const std::system_error&) {
+    return false;
+  }
+}
+
 std::optional<bool> LinuxVolumes::isReadOnly(const std::string& mountPath) {
+  if (isEmergencyReadOnly(mountPath)) return true;
   PatientQuestion<std::optional<bool>> question([mountPath]() -> std::optional<bool> {
     const auto statistics = statisticsOf(mountPath);
     if (!statistics) return {};
@@ -131,7 +142,7 @@ LinuxVolumes::Figures LinuxVolumes::figuresOf(const Mount& mount, const Reclaima
   const std::uint64_t freeBlocks = mayUseReservedBlocks(mount) ? statistics->f_bfree : statistics->f_bavail;
   return {.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes(mount.path),
           .totalBytes = statistics->f_blocks * statistics->f_frsize,
-          .readOnly = (statistics->f_flag & ST_RDONLY) != 0};
+          .readOnly = mount.emergencyReadOnly || (statistics->f_flag & ST_RDONLY) != 0};
 }
 
 void LinuxVolumes::giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,

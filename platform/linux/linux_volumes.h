@@ -56,6 +56,7 @@ class LinuxVolumes : public MountedVolumes, public DiskLookup {
   };
 
   [[nodiscard]] Identity identityOf(const Mount& mount) const;
+  [[nodiscard]] bool isEmergencyReadOnly(const std::string& mountPath) const;
   [[nodiscard]] std::optional<Identity> listedUnder(const std::string& name);
   struct Figures {
     std::uint64_t availableBytes = 0;

@@ -26,6 +26,12 @@ std::string textOrNone(const char* text) {
   return text == nullptr ? std::string() : std::string(text);
 }
 
+bool hasOption(const char* options, const char* name) {
+  char* value = nullptr;
+  std::size_t bytes = 0;
+  return options != nullptr && mnt_optstr_get_option(options, name, &value, &bytes) == 0;
+}
+
 uid_t reservedForIn(const char* options) {
   char* value = nullptr;
   std::size_t bytes = 0;
@@ -45,6 +51,7 @@ Mount mountFrom(libmnt_fs* entry) {
           .source = textOrNone(mnt_fs_get_source(entry)),
           .pseudo = mnt_fs_is_pseudofs(entry) != 0,
           .network = mnt_fs_is_netfs(entry) != 0,
+          .emergencyReadOnly = hasOption(mnt_fs_get_fs_options(entry), "emergency_ro"),
           .reservedFor = reservedForIn(mnt_fs_get_fs_options(entry))};
 }
 

@@ -13,13 +13,15 @@ namespace calvero {
 struct Mount {
   int id = 0;
   int parentId = 0;
-  dev_t device = 0;       ///< the table's own major:minor, one per file system; stat shows others on Btrfs
-  std::string root;       ///< the folder of the file system that the mount shows; "/" is all of it
-  std::string path;       ///< where it is mounted, raw: any byte but zero
-  std::string type;       ///< e.g. "ext4", "fuse.sshfs"
-  std::string source;     ///< e.g. "/dev/sda1", "server:/export"
-  bool pseudo = false;    ///< as libmount knows the type
-  bool network = false;   ///< likewise
+  dev_t device = 0;      ///< the table's own major:minor, one per file system; stat shows others on Btrfs
+  std::string root;      ///< the folder of the file system that the mount shows; "/" is all of it
+  std::string path;      ///< where it is mounted, raw: any byte but zero
+  std::string type;      ///< e.g. "ext4", "fuse.sshfs"
+  std::string source;    ///< e.g. "/dev/sda1", "server:/export"
+  bool pseudo = false;   ///< as libmount knows the type
+  bool network = false;  ///< likewise
+  /// The file system has met an error and takes nothing any more; it is still told as writable elsewhere.
+  bool emergencyReadOnly = false;
   uid_t reservedFor = 0;  ///< the user who may fill the blocks that the file system keeps back
 };
 

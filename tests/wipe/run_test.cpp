@@ -158,6 +158,21 @@ TEST_F(Phases, RunThroughToTheCompletionWindowInOrder) {
                      "setText tfCleanedSize \"300.00 MB\"", "setProgress 100", "bringToFront windowCompleted"}}));
 }
 
+TEST_F(Phases, LetGoOfTheVolumeAtTheirEndWhateverItIs) {
+  const RunPtr run = startWithoutPasses();
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::finished);
+  EXPECT_EQ(run->directory(), nullptr) << "a finished run that is kept would keep the volume busy";
+
+  World other;
+  other.volume("DATA", 300'000'000);
+  other.start();
+  other.files.script.failAt(FileCall::removeDirectory, 1, ErrorCode::readOnly);
+  other.files.script.before(FileCall::pwrite, 1, [&] { other.app().currentRun()->abortErasing = 1; });
+  other.runWorker();
+  EXPECT_EQ(other.app().currentRun()->directory(), nullptr);
+}
+
 TEST_F(Phases, LogTheThreadsFlagFirst) {
   const RunPtr run = startWithoutPasses();
   run->terminateThread = 1;

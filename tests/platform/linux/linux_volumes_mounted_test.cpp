@@ -143,6 +143,16 @@ TEST_F(RealVolumes, TellThatTheyAreReadOnlyAlsoBehindABindMount) {
   EXPECT_TRUE(listedAt(path)->readOnly);
 }
 
+TEST_F(RealVolumes, TellThatTheyHaveTurnedReadOnlyAfterAnError) {
+  const std::string path = makeFolder("volume");
+  const auto device = mountExt4(path, "CALVEROABORTED");
+  ASSERT_TRUE(device);
+  EXPECT_EQ(volumes_.isReadOnly(path), false);
+  ASSERT_EQ(::mount(nullptr, path.c_str(), nullptr, MS_REMOUNT, "abort"), 0);
+  EXPECT_EQ(volumes_.isReadOnly(path), true);
+  EXPECT_TRUE(listedAt(path)->readOnly);
+}
+
 TEST_F(RealVolumes, CallAvailableWhatTheProcessCanFill) {
   constexpr double kOwnReserve = 2U << 20U;  // what ext4 keeps from everybody; a tenth of what it keeps for root here
   for (const char* reservedFor : {"resuid=0", "resuid=65533"}) {

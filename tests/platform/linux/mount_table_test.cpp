@@ -50,6 +50,12 @@ TEST(MountTable, TellsWhomReservedBlocksAreKeptFor) {
   EXPECT_EQ(table[1].reservedFor, 65534U);
 }
 
+TEST(MountTable, KnowsAFileSystemThatTakesNothingAnyMoreAfterAnError) {
+  const auto table = read("36 1 8:1 / / rw - ext4 /dev/a rw\n37 36 8:2 / /b rw - ext4 /dev/b rw,abort,emergency_ro\n");
+  EXPECT_FALSE(table[0].emergencyReadOnly);
+  EXPECT_TRUE(table[1].emergencyReadOnly);
+}
+
 TEST(MountTable, PassesOverLinesThatAreNoEntry) {
   const std::vector<Mount> table = read(
       "36 1 8:17 / / rw - ext4 /dev/sdb1 rw\nthis is no entry\n\n37 36 8:18\n38 36 8:19 / /b rw - xfs /dev/c rw\n");

@@ -1,8 +1,8 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <unistd.h>
+#include <atomic>
 
 #include <array>
 
