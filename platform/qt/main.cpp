@@ -31,13 +31,27 @@ void printError(const std::string& text) {
   std::fprintf(stderr, "calvero: %s\n", text.c_str());
 }
 
-/// Qt ends the process where it finds no display.
-bool isDisplayThere() {
-  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-    const char* value = std::getenv(variable);
-    if (value != nullptr && *value != '\0') return true;
-  }
-  return false;
+bool isSet(const char* variable) {
+  const char* value = std::getenv(variable);
+  return value != nullptr && *value != '\0';
+}
+
+/// Qt's own stand-in for a display, which shows nothing.
+constexpr const char* kNoDisplay = "offscreen";
+
+/// Qt ends the process where it finds none of the displays that it may use, so that the last of them is none at all.
+void chooseDisplay() {
+  constexpr const char* kChoice = "QT_QPA_PLATFORM";
+  if (isSet(kChoice)) return;
+  std::string displays = kNoDisplay;
+  if (isSet("DISPLAY")) displays = "xcb;" + displays;
+  if (isSet("WAYLAND_DISPLAY")) displays = "wayland;" + displays;
+  qputenv(kChoice, QByteArray::fromStdString(displays));
+}
+
+/// A wipe that was ordered needs no display; a person does.
+bool canBeUsed(Authentication& authentication) {
+  return QGuiApplication::platformName() != kNoDisplay || authentication.GetValueForTag(kTagOnline) == "1";
 }
 
 int showWindow(int argumentCount, char** arguments) {
@@ -49,7 +63,12 @@ int showWindow(int argumentCount, char** arguments) {
   Authentication authentication(tags, addresses);
   Translations texts(chooseInterfaceLanguage(authentication, defaults));
 
+  chooseDisplay();
   QApplication application(argumentCount, arguments);
+  if (!canBeUsed(authentication)) {
+    printError("there is no display to open a window on; in a terminal, use calvero-cli");
+    return kFailed;
+  }
   QApplication::setApplicationName("Calvero");
   QApplication::setDesktopFileName("calvero");
   QApplication::setQuitOnLastWindowClosed(false);  // the controller decides when the program ends
@@ -80,10 +99,6 @@ int run(int argumentCount, char** arguments) {
   } catch (const CLI::ParseError& error) {
     printError(std::string(error.what()) + "; see calvero --help");
     return kWrongUsage;
-  }
-  if (!isDisplayThere()) {
-    printError("there is no display to open a window on; in a terminal, use calvero-cli");
-    return kFailed;
   }
   raiseOpenFileLimit();
   return showWindow(argumentCount, arguments);

@@ -1,4 +1,4 @@
-"""Finds the programs, and runs calvero-cli: to its end, in the background, on a terminal of its own, or under strace."""
+"""Finds the programs, and runs calvero-cli: to its end, in the background, on a terminal of its own, under strace."""
 
 import ctypes
 import fcntl

@@ -191,6 +191,10 @@ class Volume:
         subprocess.run(["umount", self.path], check=True)
         self._mounted = False
 
+    def noteUnmounted(self):
+        """Somebody else has unmounted it."""
+        self._mounted = False
+
     def detach(self):
         """Takes the volume out of the tree while it is in use; it lives on until its last file is closed."""
         subprocess.run(["umount", "-l", self.path], check=True)

@@ -222,10 +222,11 @@ class WindowProgram:
         return tuple(accessible.queryComponent().getExtents(DESKTOP_COORDS))
 
     def _isPlaced(self, window):
-        """A program learns late where the window manager has put its window; the screen knows."""
+        """A program learns late where the window manager has put its window; the screen knows. A window that the
+        manager has not yet taken into a frame of its own is still a child of the screen itself."""
         x, y, width, height = self._boundsNow(window)
         listed = self._desktop.run("xwininfo", "-root", "-tree")
-        return re.search(rf" {width}x{height}[+-]\S+  \+{x}\+{y}$", listed, re.MULTILINE)
+        return re.search(rf"^ {{6,}}0x.* {width}x{height}[+-]\S+  \+{x}\+{y}$", listed, re.MULTILINE)
 
     def _titled(self, title):
         return [window for window in self._tree.windows() if window.name == title]

@@ -1,0 +1,80 @@
+"""The suite's language, which the tag store tells."""
+
+import configparser
+import os
+import sqlite3
+
+from window_case import WindowTest
+
+STORE = "Ondrel Software/Ondrel MORE/tags.sqlite"
+SETTINGS = "Ondrel Software/Calvero.ini"
+
+
+class Language(WindowTest):
+    def homeWithTags(self, **tags):
+        home = self.screen.newHome()
+        path = os.path.join(home["XDG_DATA_HOME"], STORE)
+        self.writeTags(path, tags)
+        return home
+
+    def writeTags(self, path, tags):
+        """As every program of the suite does."""
+        os.makedirs(os.path.dirname(path), mode=0o700, exist_ok=True)
+        store = sqlite3.connect(path)
+        store.executescript("""
+            BEGIN IMMEDIATE;
+            PRAGMA application_id = 1330467923;
+            PRAGMA user_version = 1;
+            CREATE TABLE tags (tag TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL) WITHOUT ROWID;
+            COMMIT;
+            PRAGMA journal_mode = WAL;""")
+        with store:
+            store.executemany("INSERT INTO tags VALUES (?, ?)", tags.items())
+        store.close()
+
+    def languageStored(self, home):
+        settings = configparser.ConfigParser()
+        settings.optionxform = str
+        self.assertEqual(len(settings.read(os.path.join(home["XDG_CONFIG_HOME"], SETTINGS))), 1)
+        return settings["General"]["AppleLanguages"]
+
+    def checkLanguage(self, home, language, nextText, reload, env=None):
+        window = self.startWindow(home=home, env=env)
+        window.find("push button", nextText)
+        window.find("push button", reload)
+        self.assertEqual(self.languageStored(home), language)
+        self.quit(window)
+
+    def testTheTextsAreInTheLanguageOfTheSuite(self):
+        self.checkLanguage(self.homeWithTags(LANG="de"), "de", "Weiter", "Laufwerke neu laden")
+
+    def testTheStoreThatTheEnvironmentNamesIsRead(self):
+        path = os.path.join(self.screen.newHome()["HOME"], "own", "tags")
+        self.writeTags(path, {"LANG": "de"})
+        home = self.homeWithTags(LANG="fr")
+        self.checkLanguage(home, "de", "Weiter", "Laufwerke neu laden", env={"CALVERO_TAG_STORE": path})
+
+    def testWithoutALanguageOfTheSuiteTheTextsAreEnglishWhateverTheSystemSpeaks(self):
+        home = self.screen.newHome()
+        self.checkLanguage(home, "en", "Next", "Reload Drives", env={"LANG": "de_DE.UTF-8", "LANGUAGE": "de"})
+        self.assertFalse(os.path.exists(os.path.join(home["XDG_DATA_HOME"], STORE)), "reading makes no store")
+
+    def testALanguageWithoutTextsIsEnglish(self):
+        self.checkLanguage(self.homeWithTags(LANG="tlh"), "tlh", "Next", "Reload Drives")
+
+    def testTheQuestionAndTheRefusalAreInTheLanguageOfTheSuite(self):
+        target = self.makeVolume("ext4", 16)
+        window = self.startWindow(home=self.homeWithTags(LANG="de"))
+        tile = window.find("list item", target.name)
+        window.click(tile)
+        window.waitForState(tile, "selected")
+        window.pressButton("Weiter")
+        window.pressButton("Fortfahren")
+        question = window.find("dialog", "Achtung!")
+        window.pressButton("Nein", within=question)
+        window.waitUntilGone("dialog", "Achtung!")
+        target.remount("ro")
+        window.pressButton("Weiter")
+        self.assertRefusal(window, "schreibgeschützt", title="Hinweis")
+        self.quit(window)
+        self.assertNothingLeft(target)
