@@ -4,6 +4,7 @@
 #include <QLayout>
 #include <QPainter>
 
+#include "platform/qt/outline.h"
 #include "platform/qt/widget_text.h"
 #include "ui_completed_window.h"
 
@@ -13,9 +14,13 @@ QIcon iconFor(OutcomeKind kind) {
   return QIcon(kind == OutcomeKind::warning ? ":/icons/warning.svg" : ":/icons/finished.svg");
 }
 
+const Qt::WindowFlags kMessageFlags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                      Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
+
 CompletedWindow::CompletedWindow(QWidget* mainWindow)
     : QDialog(mainWindow), ui_(std::make_unique<Ui::CompletedWindow>()) {
   ui_->setupUi(this);
+  setWindowFlags(kMessageFlags);
   connect(ui_->completedOk, &QAbstractButton::clicked, this, &QDialog::reject);
 }
 
@@ -28,7 +33,7 @@ void CompletedWindow::setOutcome(const QString& text, OutcomeKind kind) {
   setAccessibleDescription(text);
   layout()->activate();  // rows inside rows know their new sizes only then
   const QSize fitting = layout()->totalSizeHint();
-  resize(fitting.width(), layout()->totalHeightForWidth(fitting.width()));
+  setFixedSize(fitting.width(), layout()->totalHeightForWidth(fitting.width()));
 }
 
 void CompletedWindow::setOkTitle(const std::string& title) {
@@ -45,7 +50,7 @@ void CompletedWindow::paintEvent(QPaintEvent* event) {
   QDialog::paintEvent(event);
   if (!windowFlags().testFlag(Qt::FramelessWindowHint)) return;
   QPainter painter(this);
-  painter.setPen(palette().color(QPalette::Dark));
+  painter.setPen(outlineColour(palette()));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

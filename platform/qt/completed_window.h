@@ -16,6 +16,9 @@ enum class OutcomeKind { finished, warning };
 /// The icon that stands for an outcome.
 QIcon iconFor(OutcomeKind kind);
 
+/// A message has a title and can be closed, and is neither minimised, maximised nor resized.
+extern const Qt::WindowFlags kMessageFlags;
+
 /// The small window that tells a run's end. It stays until whoever is told by `onOk` takes it away.
 class CompletedWindow : public QDialog {
   Q_OBJECT

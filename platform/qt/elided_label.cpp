@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QToolTip>
+#include <algorithm>
 
 #include "platform/qt/widget_text.h"
 
@@ -20,8 +21,10 @@ QString ElidedLabel::shownText() const {
 QSize ElidedLabel::minimumSizeHint() const {
   const QMargins margins = contentsMargins();
   constexpr int kFewestCharacters = 6;
+  // Characters that the font does not have may come from a higher one.
+  const int line = std::max(fontMetrics().height(), fontMetrics().size(Qt::TextSingleLine, text()).height());
   return {margins.left() + margins.right() + kFewestCharacters * fontMetrics().averageCharWidth(),
-          margins.top() + margins.bottom() + fontMetrics().height()};
+          margins.top() + margins.bottom() + line};
 }
 
 QSize ElidedLabel::sizeHint() const {

@@ -1,9 +1,12 @@
 #include "platform/qt/main_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QScreen>
 
+#include "platform/qt/outline.h"
 #include "platform/qt/widget_text.h"
 #include "ui_main_window.h"
 
@@ -58,9 +61,25 @@ void MainWindow::styleCaptions() {
   setPicture(ui_->appIcon, windowIcon(), kAppIconSide);
   setPicture(ui_->cloud_img_1, QIcon(":/icons/cloud.svg"), kPictureSide);
   ui_->sideBar->setBackgroundRole(QPalette::AlternateBase);
-  for (QFrame* line : {ui_->sideLine, ui_->lineAbove_medium, ui_->lineAbove_high}) {
-    line->setForegroundRole(QPalette::Mid);
+  const std::initializer_list<QFrame*> outlined{ui_->sideLine,   ui_->lineAbove_medium, ui_->lineAbove_high,
+                                                ui_->tileScroll, ui_->noDrives,         ui_->boxSelVolDesc,
+                                                ui_->figuresBox, ui_->progressFigures,  ui_->completedBox};
+  for (QFrame* frame : outlined) {
+    if (frame->frameShape() == QFrame::StyledPanel) frame->setFrameStyle(QFrame::Box | QFrame::Plain);
+    frame->setForegroundRole(QPalette::Mid);
   }
+  ui_->piDataWipe->setLocale(QLocale::c());  // digits as in the other figures
+  colourOutlines();
+}
+
+void MainWindow::colourOutlines() {
+  const QColor outline = outlineColour(QGuiApplication::palette());
+  if (palette().color(QPalette::Mid) == outline) return;
+  QPalette own;
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    own.setColor(group, QPalette::Mid, outline);
+  }
+  setPalette(own);
 }
 
 void MainWindow::connectButtons() {
@@ -143,7 +162,9 @@ void MainWindow::leaveTaskBar() {
 // On the progress page nothing has the keyboard at first: a key meant for the question must not cancel the run.
 void MainWindow::focusPage() {
   const QWidget* page = ui_->tabView->currentWidget();
-  if (page == ui_->volumePage) ui_->collectionView->focusCurrent();
+  const bool hasTiles = ui_->collectionView->count() != 0;
+  if (page == ui_->volumePage && hasTiles) ui_->collectionView->focusCurrent();
+  if (page == ui_->volumePage && !hasTiles) ui_->reloadDrivers->setFocus(Qt::OtherFocusReason);
   if (page == ui_->methodPage) ui_->methodPage->focusCurrent();
   if (page == ui_->progressPage) ui_->progressPage->setFocus(Qt::OtherFocusReason);
 }
@@ -179,6 +200,7 @@ void MainWindow::hideEvent(QHideEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) colourOutlines();
   if (event->type() != QEvent::WindowStateChange) return;
   noteScreenState();
   const bool was = static_cast<QWindowStateChangeEvent*>(event)->oldState().testFlag(Qt::WindowMinimized);

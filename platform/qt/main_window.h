@@ -90,6 +90,7 @@ class MainWindow : public QWidget {
 
  private:
   void styleCaptions();
+  void colourOutlines();
   void connectButtons();
   void connectPages();
   void describeVolumes(const Localisation& localisation);

@@ -4,12 +4,15 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <algorithm>
 #include <memory>
 
+#include "platform/qt/completed_window.h"
+#include "platform/qt/padded_button.h"
 #include "ports/localisation.h"
 
 namespace calvero {
@@ -58,35 +61,44 @@ QLabel* newTextLabel(const QString& text, const QFont& font, QDialog& dialog) {
   return label;
 }
 
-QLabel* newIconLabel(QStyle::StandardPixmap icon, QDialog& dialog) {
+QLabel* newIconLabel(const char* file, QDialog& dialog) {
+  constexpr int kIconSide = 40;
   auto* label = new QLabel(&dialog);
-  const int pixels = dialog.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &dialog);
-  label->setPixmap(
-      dialog.style()->standardIcon(icon, nullptr, &dialog).pixmap(QSize(pixels, pixels), dialog.devicePixelRatio()));
+  label->setPixmap(QIcon(file).pixmap(QSize(kIconSide, kIconSide), dialog.devicePixelRatio()));
   return label;
 }
 
 QPushButton* addButton(QDialogButtonBox& box, const std::string& text, QDialogButtonBox::ButtonRole role,
                        const char* name) {
-  QPushButton* button = box.addButton(literally(text), role);
+  constexpr int kLeastWidth = 96;
+  auto* button = new PaddedButton(&box);
+  button->setText(literally(text));
+  button->setMinimumWidth(kLeastWidth);
   button->setObjectName(name);
+  box.addButton(button, role);
   return button;
 }
 
 void layOut(QDialog& dialog, const Alert& alert, QDialogButtonBox* buttons) {
+  constexpr int kMargin = 18;
+  constexpr int kBesideIcon = 16;
+  constexpr int kAboveButtons = 4;
   const Texts texts = textsOf(alert);
   QFont bold = dialog.font();
   bold.setBold(true);
   auto* layout = new QGridLayout(&dialog);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   layout->setColumnMinimumWidth(1, dialog.fontMetrics().averageCharWidth() * kFewest);
-  layout->setHorizontalSpacing(2 * layout->horizontalSpacing());
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setHorizontalSpacing(kBesideIcon);
   const bool isQuestion = !alert.alternateButton.empty();
-  layout->addWidget(newIconLabel(isQuestion ? QStyle::SP_MessageBoxQuestion : QStyle::SP_MessageBoxInformation, dialog),
-                    0, 0, 2, 1, Qt::AlignTop);
+  layout->addWidget(newIconLabel(isQuestion ? ":/icons/question.svg" : ":/icons/information.svg", dialog), 0, 0, 2, 1,
+                    Qt::AlignTop);
   layout->addWidget(newTextLabel(texts.heading, bold, dialog), 0, 1);
   if (!texts.details.isEmpty()) layout->addWidget(newTextLabel(texts.details, dialog.font(), dialog), 1, 1);
-  layout->addWidget(buttons, 2, 0, 1, 2);
+  layout->setRowMinimumHeight(2, kAboveButtons);
+  layout->addWidget(buttons, 3, 0, 1, 2);
+  layout->activate();  // the window is made in its size, not brought to it once it is seen
 }
 
 }  // namespace
@@ -95,6 +107,7 @@ AlertAnswer QtAlerts::runModal(const Alert& alert) {
   const bool isQuestion = !alert.alternateButton.empty();
   AlertAnswer answer = isQuestion ? AlertAnswer::alternateButton : AlertAnswer::defaultButton;
   const QPointer<QDialog> dialog(new QDialog(parentForAlert()));
+  dialog->setWindowFlags(kMessageFlags);
   dialog->setObjectName("alert");
   dialog->setWindowTitle(QGuiApplication::applicationDisplayName());
   dialog->setAccessibleName(QString::fromStdString(alert.title));

@@ -16,6 +16,7 @@ class SelectionButton : public QRadioButton {
 
  protected:
   void nextCheckState() override {}
+  void paintEvent(QPaintEvent* event) override;
 };
 
 }  // namespace calvero

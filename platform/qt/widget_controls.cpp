@@ -252,7 +252,8 @@ void WidgetControls::makeImmovable(Control window) {
   auto* widget = as<QWidget>(window);
   const bool shown = widget->isVisible();
   const QPoint corner = frameOf(*widget).bottomLeft();
-  widget->setWindowFlag(Qt::FramelessWindowHint);  // nothing to take hold of; hides it
+  // Nothing to take hold of: a wish for a title would bring the frame back. Hides the window.
+  widget->setWindowFlags((widget->windowFlags() & Qt::WindowType_Mask) | Qt::FramelessWindowHint);
   moveLowerLeft(*widget, corner);
   widget->setVisible(shown);
   if (follower_ != nullptr && follower_->parent() == widget) follower_->pin();

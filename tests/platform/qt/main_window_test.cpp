@@ -2,6 +2,10 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <cstdlib>
+#include <utility>
 
 #include "tests/platform/qt/window_fixture.h"
 
@@ -55,6 +59,34 @@ TEST_F(MainWindowTest, TellsWhichButtonWasPressed) {
   press("completedOk");
   EXPECT_THAT(told, ElementsAre("next", "reload", "home", "help", "get it now", "cloud", "facebook", "twitter",
                                 "google", "back", "proceed", "cancel", "page ok", "window ok"));
+}
+
+TEST_F(MainWindowTest, OffersToListTheDrivesAgainWhereThereIsNone) {
+  show();
+  EXPECT_EQ(focused(), "reloadDrivers");
+}
+
+TEST_F(MainWindowTest, WritesThePercentageInTheDigitsOfTheOtherFigures) {
+  QLocale::setDefault(QLocale("ar"));
+  const MainWindow arabic;
+  QLocale::setDefault(QLocale::system());
+  auto* bar = arabic.findChild<QProgressBar*>("piDataWipe");
+  bar->setRange(0, 100);
+  bar->setValue(37);
+  EXPECT_EQ(bar->text(), "37%");
+}
+
+TEST_F(MainWindowTest, DrawsOutlinesBetweenGroundAndTextOnLightAndOnDarkGround) {
+  const QPalette before = QGuiApplication::palette();
+  for (const auto& [ground, text] : {std::pair<QColor, QColor>("white", "black"), {"black", "white"}}) {
+    QPalette colours{ground, ground};
+    colours.setColor(QPalette::WindowText, text);
+    QApplication::setPalette(colours);
+    const int outline = find("figuresBox")->palette().color(QPalette::Mid).lightness();
+    EXPECT_GT(std::abs(outline - ground.lightness()), 50);
+    EXPECT_GT(std::abs(outline - text.lightness()), 50);
+  }
+  QApplication::setPalette(before);
 }
 
 TEST_F(MainWindowTest, HasItsWizardButtonsOnTheirPages) {

@@ -246,6 +246,15 @@ TEST_F(QtAlertsTest, TheEndOfTheProgramByAnotherThreadIsAnsweredAsByEscape) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST_F(QtAlertsTest, IsNeitherMinimisedNorMaximisedNorResized) {
+  answerTo(kQuestion, [](QDialog& dialog) {
+    EXPECT_FALSE(dialog.windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_EQ(dialog.minimumSize(), dialog.maximumSize());
+    dialog.reject();
+  });
+}
+
 TEST_F(QtAlertsTest, MirrorsItselfForALanguageWrittenFromRightToLeft) {
   QGuiApplication::setLayoutDirection(Qt::RightToLeft);
   answerTo(kQuestion, [](QDialog& dialog) {
