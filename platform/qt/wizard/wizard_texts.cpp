@@ -1,20 +1,17 @@
 #include "platform/qt/wizard/wizard_texts.h"
 
+#include "platform/qt/widget_text.h"
 #include "ports/localisation.h"
 #include "wipe/filler_names.h"
 
 namespace calvero {
 namespace {
 
-// Keeps the value in one piece in a sentence of the other direction of writing.
-constexpr const char* kIsolate = "\u2068";
-constexpr const char* kEndOfIsolate = "\u2069";
-
 std::string filledIn(std::string text, const std::string& value) {
   constexpr std::string_view kPlaceholder = "%1";
   const auto at = text.find(kPlaceholder);
   if (at == std::string::npos) return text;
-  return text.replace(at, kPlaceholder.size(), kIsolate + value + kEndOfIsolate);
+  return text.replace(at, kPlaceholder.size(), isolated(QString::fromStdString(value)).toStdString());
 }
 
 }  // namespace
