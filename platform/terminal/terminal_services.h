@@ -5,7 +5,9 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "platform/dbus/session_notifications.h"
 #include "platform/terminal/output.h"
 #include "ports/information_file.h"
 #include "ports/localisation.h"
@@ -25,10 +27,20 @@ class NoTags : public TagStore {
   void setValue(const std::string&, const std::string&) override {}
 };
 
-/// Nothing is ever received.
-class NoSystemNotifications : public SystemNotifications {
+/// The session bus, for a command that listens: the others do not wait for it.
+class NotificationsOnDemand : public SystemNotifications {
  public:
-  void observe(const std::string&, const std::string&, std::function<void()>) override {}
+  NotificationsOnDemand(EventLoop& loop, SystemLog& log) : loop_(loop), log_(log) {}
+
+  void observe(const std::string& name, const std::string& object, std::function<void()> action) override {
+    if (!bus_) bus_.emplace(loop_, log_);
+    bus_->observe(name, object, std::move(action));
+  }
+
+ private:
+  EventLoop& loop_;
+  SystemLog& log_;
+  std::optional<SessionNotifications> bus_;
 };
 
 /// The terminal speaks English, the language of the keys.

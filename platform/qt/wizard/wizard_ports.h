@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "platform/dbus/session_notifications.h"
 #include "platform/linux/detached_threads.h"
 #include "platform/linux/kernel_random.h"
 #include "platform/linux/linux_volumes.h"
@@ -17,7 +18,6 @@
 #include "platform/qt/wizard/wizard_controls.h"
 #include "platform/suite/plist_information_file.h"
 #include "ports/ports.h"
-#include "ports/system_notifications.h"
 
 namespace calvero {
 
@@ -32,12 +32,6 @@ struct SuiteServices {
   SuiteWeb& web;
   Workspace& workspace;
   Localisation& texts;
-};
-
-/// Nothing is ever received.
-class NoSystemNotifications : public SystemNotifications {
- public:
-  void observe(const std::string&, const std::string&, std::function<void()>) override {}
 };
 
 /// Everything that the window gives the controller, and the window itself. Needs a QApplication.
@@ -68,7 +62,7 @@ class WizardPorts {
   LinuxVolumes volumes_;
   KernelRandom random_;
   PlistInformationFile informationFile_;
-  NoSystemNotifications systemNotifications_;
+  SessionNotifications systemNotifications_{loop, log};
 };
 
 }  // namespace calvero

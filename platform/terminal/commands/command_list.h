@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -19,8 +21,26 @@ struct WipeRequest {
   bool json = false;
 };
 
+struct OrderRequest {
+  std::string volume;
+  std::string method;
+  bool wait = false;
+  std::optional<std::uint32_t> timeoutSeconds;
+};
+
+struct CancelRequest {
+  bool wait = false;
+  std::function<void()> notify;  ///< tells every running Calvero at once; may be empty
+};
+
 ExitCode volumesCommand(const ListRequest& request);
 ExitCode methodsCommand(const ListRequest& request);
 ExitCode wipeCommand(const WipeRequest& request);
+
+// What another program orders, through the suite's tag store. They throw what the store cannot do.
+ExitCode orderCommand(const OrderRequest& request);
+ExitCode statusCommand(const ListRequest& request);
+ExitCode cancelCommand(const CancelRequest& request);
+ExitCode clearCommand();
 
 }  // namespace calvero

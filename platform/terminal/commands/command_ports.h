@@ -55,7 +55,7 @@ class CommandPorts {
   SyslogLog log_;
   KernelRandom random_;
   NoTags tagStore_;
-  NoSystemNotifications systemNotifications_;
+  NotificationsOnDemand systemNotifications_{loop, log_};
   EnglishTexts texts_;
   PrintedPopUp popUp_;
   NoDesktop desktop_;

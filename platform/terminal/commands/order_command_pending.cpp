@@ -1,0 +1,39 @@
+#include "platform/terminal/commands/order_command_pending.h"
+
+#include <unistd.h>
+
+#include "methods/method_catalogue.h"
+#include "platform/terminal/commands/command_ports.h"
+#include "platform/terminal/output.h"
+#include "remote/remote_order.h"
+
+namespace calvero {
+
+PendingOrder readPendingOrder(OrderTags& tags) {
+  return {.isPending = tags.value(kTagOnline) == "1",
+          .volume = tags.value(kTagDrive),
+          .method = tags.value(kTagAlgo),
+          .status = tags.value(kTagStatus),
+          .cancel = tags.value(kTagCancel)};
+}
+
+std::int32_t orderedMethod(const PendingOrder& order) {
+  constexpr std::int32_t kDefaultMethod = 0;
+  return methodFromTag(order.method).value_or(kDefaultMethod);
+}
+
+std::string numberAndWord(std::int32_t method) {
+  const EraseMethod& entry = kMethodCatalogue.at(static_cast<std::size_t>(method));
+  return "method " + std::to_string(entry.number + 1) + " (" + entry.word + ")";
+}
+
+ExitCode give(const Answer& answer) {
+  if (answer.exitCode == ExitCode::finished) {
+    Output(STDOUT_FILENO).line(answer.line);
+  } else {
+    printError(answer.line);
+  }
+  return answer.exitCode;
+}
+
+}  // namespace calvero

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/terminal/commands/order_tags.h"
+#include "platform/terminal/exit_code.h"
+
+namespace calvero {
+
+/// What the tag store holds of an order. A text that is absent is empty.
+struct PendingOrder {
+  bool isPending = false;
+  std::string volume;
+  std::string method;  ///< as it was ordered; see `orderedMethod`
+  std::string status;
+  std::string cancel;
+
+  [[nodiscard]] bool exists() const { return isPending || !volume.empty(); }
+  /// A run has reported its end. Says nothing for an order whose writer left an old status in the store.
+  [[nodiscard]] bool hasEnded() const { return !status.empty(); }
+};
+
+/// How a command ends: a line for standard output, or for standard error where the exit code is not `finished`.
+struct Answer {
+  ExitCode exitCode = ExitCode::finished;
+  std::string line;
+};
+
+/// Whether a run holds the volume of that name.
+using RunLookup = std::function<bool(const std::string& volume)>;
+
+/// Throws TagStoreFailure.
+PendingOrder readPendingOrder(OrderTags& tags);
+
+/// The method (0 to 8) that a run of the order uses: the default one where none is named.
+std::int32_t orderedMethod(const PendingOrder& order);
+
+/// "method 3 (dod)"
+std::string numberAndWord(std::int32_t method);
+
+/// Prints the line where it belongs and returns the exit code.
+ExitCode give(const Answer& answer);
+
+}  // namespace calvero

@@ -1,0 +1,77 @@
+#include "platform/terminal/commands/status_command.h"
+
+#include <unistd.h>
+
+#include "methods/method_catalogue.h"
+#include "platform/suite/suite_folder.h"
+#include "platform/terminal/commands/command_list.h"
+#include "platform/terminal/commands/command_runs.h"
+#include "platform/terminal/json_text.h"
+#include "platform/terminal/text.h"
+#include "remote/remote_order.h"
+
+namespace calvero {
+namespace {
+
+std::string methodInWords(const PendingOrder& order) {
+  const std::string method = numberAndWord(orderedMethod(order));
+  return methodFromTag(order.method) ? method : method + ", since \"" + printable(order.method) + "\" names none";
+}
+
+/// One word for each status, for other programs.
+std::string statusWord(const std::string& status) {
+  if (status.empty()) return "none";
+  if (status == kStatusFinished) return "finished";
+  return status == kStatusFailed ? "failed" : "unknown";
+}
+
+std::string statusInWords(const std::string& status) {
+  if (status.empty()) return "none yet";
+  if (status == kStatusFinished) return "2, finished";
+  if (status == kStatusFailed) return "3, not finished: the volume is missing or vanished, or the run was cancelled";
+  return "unknown: \"" + printable(status) + "\"";
+}
+
+}  // namespace
+
+std::string statusText(const PendingOrder& order, RunState run) {
+  std::string text = "Order:  ";
+  if (order.exists()) {
+    text += "\"" + printable(order.volume) + "\" with " + methodInWords(order) +
+            (order.isPending ? ", pending" : ", not pending") + '\n';
+  } else {
+    text += "none\n";
+  }
+  text += std::string("Run:    ") + (run == RunState::underWay ? "under way" : "none") + '\n';
+  if (order.cancel == "1") text += "Cancel: asked for\n";
+  return text + "Status: " + (order.exists() || order.hasEnded() ? statusInWords(order.status) : "none") + '\n';
+}
+
+std::string statusJson(const PendingOrder& order, RunState run) {
+  nlohmann::ordered_json json{{"pending", order.isPending}};
+  json["volume"] = order.exists() ? nlohmann::ordered_json(order.volume) : nullptr;
+  json["method"] = order.exists() ? nlohmann::ordered_json(orderedMethod(order) + 1) : nullptr;
+  json["running"] = run == RunState::underWay;
+  json["cancelAsked"] = order.cancel == "1";
+  const std::string word = statusWord(order.status);
+  const bool isKnown = order.status == kStatusFinished || order.status == kStatusFailed;
+  json["status"] = isKnown ? nlohmann::ordered_json(std::stoi(order.status)) : nullptr;
+  json["outcome"] = word;
+  return jsonText(json);
+}
+
+ExitCode statusCommand(const ListRequest& request) {
+  StoredOrderTags tags(tagStorePath());
+  const PendingOrder order = readPendingOrder(tags);
+  const bool isUnderWay = !order.volume.empty() && MountedRuns().isUnderWay(order.volume);
+  const RunState run = isUnderWay ? RunState::underWay : RunState::none;
+  const Output output(STDOUT_FILENO);
+  if (request.json) {
+    output.line(statusJson(order, run));
+  } else {
+    output.write(statusText(order, run));
+  }
+  return ExitCode::finished;
+}
+
+}  // namespace calvero

@@ -1,0 +1,123 @@
+#include "platform/terminal/commands/window_program.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+#include <system_error>
+
+namespace calvero {
+namespace {
+
+constexpr const char* kWindowProgramName = "calvero";
+constexpr const char* kInBuildTree = "../qt/calvero";
+
+bool isProgram(const std::filesystem::path& path) {
+  std::error_code unknown;
+  return std::filesystem::is_regular_file(path, unknown) && ::access(path.c_str(), X_OK) == 0;
+}
+
+class DetachedProgram : public StartedProgram {
+ public:
+  explicit DetachedProgram(pid_t id) : id_(id) {}
+
+  bool hasEnded() override {
+    if (ending_.empty()) {
+      int status = 0;
+      const pid_t answer = ::waitpid(id_, &status, WNOHANG);
+      if (answer == id_) ending_ = inWords(status);
+      // Whoever started this process may have had it ignore the end of its children.
+      if (answer < 0 && errno == ECHILD) ending_ = "in an unknown way";
+    }
+    return !ending_.empty();
+  }
+
+  [[nodiscard]] std::string ending() const override { return ending_; }
+
+ private:
+  static std::string inWords(int status) {
+    return WIFSIGNALED(status) ? "signal " + std::to_string(WTERMSIG(status))
+                               : "exit code " + std::to_string(WEXITSTATUS(status));
+  }
+
+  const pid_t id_;
+  std::string ending_;
+};
+
+void throwIfFailed(int error, const char* what) {
+  if (error != 0) throw std::system_error(error, std::generic_category(), what);
+}
+
+/// How a detached program is started. The settings of signals that this program made are undone; a signal that it was
+/// itself started to ignore (nohup) stays ignored.
+class DetachedStart {
+ public:
+  DetachedStart() {
+    throwIfFailed(::posix_spawnattr_init(&attributes_), "posix_spawnattr_init");
+    throwIfFailed(::posix_spawn_file_actions_init(&files_), "posix_spawn_file_actions_init");
+    sigset_t ignoredHere;
+    ::sigemptyset(&ignoredHere);
+    for (const int signal : {SIGPIPE, SIGXFSZ}) ::sigaddset(&ignoredHere, signal);
+    throwIfFailed(::posix_spawnattr_setsigdefault(&attributes_, &ignoredHere), "posix_spawnattr_setsigdefault");
+    throwIfFailed(::posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF),
+                  "posix_spawnattr_setflags");
+    constexpr mode_t kNoNewFile = 0;
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+      throwIfFailed(::posix_spawn_file_actions_addopen(&files_, stream, "/dev/null", O_RDWR, kNoNewFile),
+                    "posix_spawn_file_actions_addopen");
+    }
+    throwIfFailed(::posix_spawn_file_actions_addclosefrom_np(&files_, STDERR_FILENO + 1),
+                  "posix_spawn_file_actions_addclosefrom_np");
+  }
+  DetachedStart(const DetachedStart&) = delete;
+  DetachedStart& operator=(const DetachedStart&) = delete;
+  ~DetachedStart() {
+    ::posix_spawn_file_actions_destroy(&files_);
+    ::posix_spawnattr_destroy(&attributes_);
+  }
+
+  [[nodiscard]] pid_t start(std::string path) const {
+    char* const arguments[] = {path.data(), nullptr};
+    pid_t id = 0;
+    throwIfFailed(::posix_spawn(&id, path.c_str(), &files_, &attributes_, arguments, environ), path.c_str());
+    return id;
+  }
+
+ private:
+  posix_spawnattr_t attributes_{};
+  posix_spawn_file_actions_t files_{};
+};
+
+}  // namespace
+
+std::optional<std::string> findWindowProgram(const std::string& ownFolder, const std::string& searchPath) {
+  const std::filesystem::path own(ownFolder);
+  for (const char* place : {kWindowProgramName, kInBuildTree}) {
+    if (isProgram(own / place)) return (own / place).lexically_normal().string();
+  }
+  std::istringstream folders(searchPath);
+  for (std::string folder; std::getline(folders, folder, ':');) {
+    const std::filesystem::path candidate = std::filesystem::path(folder) / kWindowProgramName;
+    if (candidate.is_absolute() && isProgram(candidate)) return candidate.string();
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> findWindowProgram() {
+  std::error_code unknown;
+  const auto own = std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path();
+  const char* searchPath = std::getenv("PATH");
+  return findWindowProgram(own.string(), searchPath == nullptr ? "" : searchPath);
+}
+
+std::unique_ptr<StartedProgram> startDetached(const std::string& path) {
+  return std::make_unique<DetachedProgram>(DetachedStart().start(path));
+}
+
+}  // namespace calvero

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace calvero {
+
+/// A started program. It goes on when this object is destroyed and when this process ends.
+class StartedProgram {
+ public:
+  StartedProgram() = default;
+  StartedProgram(const StartedProgram&) = delete;
+  StartedProgram& operator=(const StartedProgram&) = delete;
+  virtual ~StartedProgram() = default;
+
+  virtual bool hasEnded() = 0;
+  /// "exit code 1", "signal 9"; empty before its end.
+  [[nodiscard]] virtual std::string ending() const = 0;
+};
+
+/// Throws std::system_error when the program cannot be started.
+using Starter = std::function<std::unique_ptr<StartedProgram>(const std::string& path)>;
+
+/// The full path of the window program: in `ownFolder`, where a build puts it from there, or in an absolute folder of
+/// `searchPath`, as PATH lists them.
+std::optional<std::string> findWindowProgram(const std::string& ownFolder, const std::string& searchPath);
+/// The same for this process.
+std::optional<std::string> findWindowProgram();
+
+/// Starts the program in a session of its own, without this process's standard streams and other open files.
+std::unique_ptr<StartedProgram> startDetached(const std::string& path);
+
+}  // namespace calvero

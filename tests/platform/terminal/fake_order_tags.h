@@ -1,0 +1,79 @@
+#pragma once
+
+#include <memory>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/terminal/commands/order_tags.h"
+#include "platform/terminal/commands/window_program.h"
+#include "remote/remote_order.h"
+#include "tests/fakes/fake_tag_store.h"
+#include "tests/platform/terminal/order_testing.h"
+
+namespace calvero::testing {
+
+/// The tags of an order in a FakeTagStore; what is stored as one is one entry of the journal.
+class FakeOrderTags : public OrderTags {
+ public:
+  explicit FakeOrderTags(Journal& journal) : journal_(journal), store_(unseen_) {}
+
+  void put(const std::string& tag, const std::string& value) { store_.put(tag, value); }
+  void putOrder(const std::string& volume, const std::string& method) {
+    put(kTagDrive, volume);
+    put(kTagAlgo, method);
+    put(kTagOnline, "1");
+  }
+  [[nodiscard]] std::string peek(const std::string& tag) const { return store_.peek(tag).value_or(""); }
+  void setReadable(bool isReadable) { isReadable_ = isReadable; }
+  void setWritable(bool isWritable) { isWritable_ = isWritable; }
+
+  std::string value(const std::string& tag) override {
+    if (!isReadable_) throw TagStoreFailure("unreadable");
+    return store_.value(tag).value_or("");
+  }
+  void store(const std::vector<TagValue>& tags) override {
+    if (!isWritable_) throw TagStoreFailure("unwritable");
+    std::string entry = "store";
+    for (const TagValue& one : tags) {
+      entry += ' ' + one.tag + '=' + one.value;
+      store_.setValue(one.tag, one.value);
+    }
+    journal_.add(std::move(entry));
+  }
+
+ private:
+  Journal& journal_;
+  Journal unseen_;
+  FakeTagStore store_;
+  bool isReadable_ = true;
+  bool isWritable_ = true;
+};
+
+/// A program that ends when the test says so.
+class FakeProgram : public StartedProgram {
+ public:
+  void end(const std::string& ending = "exit code 0") { ending_ = ending; }
+
+  bool hasEnded() override { return !ending_.empty(); }
+  [[nodiscard]] std::string ending() const override { return ending_; }
+
+ private:
+  std::string ending_;
+};
+
+/// Which volumes a run holds.
+class FakeRuns {
+ public:
+  void begin(const std::string& volume) { held_.insert(volume); }
+  void end(const std::string& volume) { held_.erase(volume); }
+  [[nodiscard]] auto lookup() const {
+    return [this](const std::string& volume) { return held_.contains(volume); };
+  }
+
+ private:
+  std::set<std::string> held_;
+};
+
+}  // namespace calvero::testing

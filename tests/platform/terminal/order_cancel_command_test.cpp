@@ -1,0 +1,154 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/terminal/commands/cancel_command.h"
+#include "tests/platform/terminal/fake_order_tags.h"
+
+namespace calvero {
+namespace {
+
+using testing::ElementsAre;
+using testing::FakeOrderTags;
+using testing::FakeRuns;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Journal;
+using testing::StartsWith;
+
+class CancelOrder : public testing::Test {
+ protected:
+  Answer cancel() {
+    return cancelOrder(tags_, runs_.lookup(), [this] { journal_.add("notify"); });
+  }
+  void expectRefused(const std::string& words) {
+    const Answer answer = cancel();
+    EXPECT_EQ(answer.exitCode, ExitCode::refused);
+    EXPECT_THAT(answer.line, HasSubstr(words));
+    EXPECT_THAT(journal_.all(), IsEmpty());
+  }
+
+  Journal journal_;
+  FakeOrderTags tags_{journal_};
+  FakeRuns runs_;
+};
+
+TEST_F(CancelOrder, SetsTheTagBeforeItNotifies) {
+  tags_.putOrder("stick", "3");
+  const Answer answer = cancel();
+  EXPECT_EQ(answer.exitCode, ExitCode::finished);
+  EXPECT_THAT(answer.line, HasSubstr("stick"));
+  EXPECT_THAT(journal_.all(), ElementsAre("store CVRCANCEL=1", "notify"));
+}
+
+TEST_F(CancelOrder, NeedsNoNotification) {
+  tags_.putOrder("stick", "3");
+  EXPECT_EQ(cancelOrder(tags_, runs_.lookup(), nullptr).exitCode, ExitCode::finished);
+  EXPECT_EQ(tags_.peek(kTagCancel), "1");
+}
+
+TEST_F(CancelOrder, IsRefusedWithoutAnOrder) {
+  expectRefused("There is no order");
+}
+
+TEST_F(CancelOrder, IsRefusedOnceTheRunHasEnded) {
+  tags_.putOrder("stick", "3");
+  tags_.put(kTagStatus, kStatusFinished);
+  expectRefused("has ended already");
+}
+
+TEST_F(CancelOrder, IsRefusedForAnOrderThatIsNotPending) {
+  tags_.putOrder("stick", "3");
+  tags_.put(kTagOnline, "0");
+  expectRefused("not pending");
+}
+
+TEST_F(CancelOrder, ReachesARunWhoseOrderWasCalledOffOrWhoseStatusIsAnOldOne) {
+  tags_.putOrder("stick", "3");
+  tags_.put(kTagOnline, "0");
+  tags_.put(kTagStatus, kStatusFinished);
+  runs_.begin("stick");
+  EXPECT_EQ(cancel().exitCode, ExitCode::finished);
+}
+
+TEST_F(CancelOrder, NotifiesNobodyWhenTheStoreCannotBeWritten) {
+  tags_.putOrder("stick", "3");
+  tags_.setWritable(false);
+  EXPECT_THROW(cancel(), TagStoreFailure);
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
+class CancelWatchTest : public testing::Test {
+ protected:
+  CancelWatchTest() {
+    tags_.putOrder("stick", "3");
+    runs_.begin("stick");
+  }
+
+  CancelWatch watch() { return {tags_, runs_.lookup(), readPendingOrder(tags_)}; }
+
+  Journal journal_;
+  FakeOrderTags tags_{journal_};
+  FakeRuns runs_;
+};
+
+constexpr std::chrono::seconds kBeginning{0};
+
+TEST_F(CancelWatchTest, EndsWithTheStatus) {
+  CancelWatch run = watch();
+  EXPECT_FALSE(run.hasEnded(kBeginning));
+  EXPECT_THAT(run.result().line, HasSubstr("has not ended yet"));
+  EXPECT_EQ(run.result().exitCode, ExitCode::failed);
+  tags_.put(kTagStatus, kStatusFailed);
+  EXPECT_TRUE(run.hasEnded(kBeginning));
+  EXPECT_EQ(run.result().exitCode, ExitCode::finished);
+  EXPECT_THAT(run.result().line, StartsWith("Cancelled: "));
+}
+
+TEST_F(CancelWatchTest, TellsOfARunThatWasFasterThanItsCancel) {
+  CancelWatch run = watch();
+  tags_.put(kTagStatus, kStatusFinished);
+  EXPECT_TRUE(run.hasEnded(kBeginning));
+  EXPECT_EQ(run.result().exitCode, ExitCode::finished);
+  EXPECT_THAT(run.result().line, StartsWith("Finished: "));
+}
+
+TEST_F(CancelWatchTest, GivesARunThatHasLeftTheVolumeTimeForItsStatus) {
+  CancelWatch run = watch();
+  EXPECT_FALSE(run.hasEnded(kBeginning));
+  runs_.end("stick");
+  EXPECT_FALSE(run.hasEnded(std::chrono::seconds(1)));
+  EXPECT_FALSE(run.hasEnded(std::chrono::seconds(15)));
+  EXPECT_TRUE(run.hasEnded(std::chrono::seconds(16)));
+  EXPECT_EQ(run.result().exitCode, ExitCode::finished);
+  EXPECT_THAT(run.result().line, HasSubstr("has ended"));
+}
+
+TEST_F(CancelWatchTest, TakesTheVolumesWordWhereAnOldStatusWasLeft) {
+  tags_.put(kTagStatus, kStatusFinished);
+  CancelWatch run = watch();
+  EXPECT_FALSE(run.hasEnded(kBeginning));
+  runs_.end("stick");
+  EXPECT_TRUE(run.hasEnded(kBeginning));
+  EXPECT_THAT(run.result().line, HasSubstr("has ended"));
+}
+
+TEST_F(CancelWatchTest, DoesNotTakeARunThatHasNotBegunForOneThatHasEnded) {
+  runs_.end("stick");
+  CancelWatch run = watch();
+  EXPECT_FALSE(run.hasEnded(kBeginning));
+  EXPECT_FALSE(run.hasEnded(std::chrono::seconds(100)));
+  EXPECT_EQ(run.result().exitCode, ExitCode::failed);
+  EXPECT_THAT(run.result().line, HasSubstr("No run has followed"));
+}
+
+TEST_F(CancelWatchTest, OutlastsAStoreThatCannotBeReadForAWhile) {
+  CancelWatch run = watch();
+  tags_.setReadable(false);
+  EXPECT_FALSE(run.hasEnded(kBeginning));
+  tags_.setReadable(true);
+  tags_.put(kTagStatus, kStatusFailed);
+  EXPECT_TRUE(run.hasEnded(kBeginning));
+}
+
+}  // namespace
+}  // namespace calvero

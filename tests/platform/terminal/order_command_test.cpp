@@ -1,0 +1,200 @@
+#include "platform/terminal/commands/order_command.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <system_error>
+
+#include "platform/terminal/commands/order_command_watch.h"
+#include "tests/platform/terminal/fake_order_tags.h"
+
+namespace calvero {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::FakeOrderTags;
+using testing::FakeProgram;
+using testing::FakeRuns;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Journal;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr const char* kStored = "store cvrStatus= CVRCANCEL= cvrDrive=stick cvrAlgo=3 cvrOnline=1";
+
+class PlaceOrder : public testing::Test {
+ protected:
+  PlacedOrder place() {
+    return placeOrder({"stick", "/media/stick", 2, "/opt/calvero"}, tags_, runs_.lookup(),
+                      [this](const std::string& path) {
+                        journal_.add("start " + path);
+                        if (!starts_) throw std::system_error(ENOEXEC, std::generic_category(), path);
+                        return std::make_unique<FakeProgram>();
+                      });
+  }
+
+  Journal journal_;
+  FakeOrderTags tags_{journal_};
+  FakeRuns runs_;
+  bool starts_ = true;
+};
+
+TEST_F(PlaceOrder, StoresTheOrderAsOneBeforeItStartsTheProgram) {
+  const PlacedOrder placed = place();
+  EXPECT_EQ(placed.answer.exitCode, ExitCode::finished);
+  EXPECT_THAT(placed.answer.line, AllOf(HasSubstr("stick (/media/stick)"), HasSubstr("method 3 (dod)")));
+  EXPECT_NE(placed.program, nullptr);
+  EXPECT_THAT(journal_.all(), ElementsAre(kStored, "start /opt/calvero"));
+}
+
+TEST_F(PlaceOrder, LeavesNothingOfAnEarlierOrderThatHasEnded) {
+  tags_.putOrder("disk", "8");
+  tags_.put(kTagStatus, kStatusFailed);
+  tags_.put(kTagCancel, "1");
+  EXPECT_EQ(place().answer.exitCode, ExitCode::finished);
+  EXPECT_EQ(tags_.peek(kTagStatus), "");
+  EXPECT_EQ(tags_.peek(kTagCancel), "");
+  EXPECT_EQ(tags_.peek(kTagDrive), "stick");
+  EXPECT_EQ(tags_.peek(kTagAlgo), "3");
+}
+
+TEST_F(PlaceOrder, IsRefusedWhileAnEarlierOrderIsUnderWay) {
+  tags_.putOrder("disk\n", "8");
+  tags_.put(kTagStatus, kStatusFinished);  // left by an earlier run
+  runs_.begin("disk\n");
+  const PlacedOrder placed = place();
+  EXPECT_EQ(placed.answer.exitCode, ExitCode::refused);
+  EXPECT_THAT(placed.answer.line, AllOf(HasSubstr("disk\\012"), HasSubstr("under way")));
+  EXPECT_EQ(placed.program, nullptr);
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
+TEST_F(PlaceOrder, IsRefusedWhileAnEarlierOrderHasNotEnded) {
+  tags_.putOrder("disk", "8");
+  const PlacedOrder placed = place();
+  EXPECT_EQ(placed.answer.exitCode, ExitCode::refused);
+  EXPECT_THAT(placed.answer.line, AllOf(HasSubstr("disk"), HasSubstr("calvero-cli clear")));
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
+TEST_F(PlaceOrder, IgnoresAnEarlierOrderThatIsNotPending) {
+  tags_.putOrder("disk", "8");
+  tags_.put(kTagOnline, "0");
+  EXPECT_EQ(place().answer.exitCode, ExitCode::finished);
+}
+
+TEST_F(PlaceOrder, IsCalledOffWhenTheProgramCannotBeStarted) {
+  starts_ = false;
+  const PlacedOrder placed = place();
+  EXPECT_EQ(placed.answer.exitCode, ExitCode::failed);
+  EXPECT_THAT(placed.answer.line, HasSubstr("/opt/calvero"));
+  EXPECT_EQ(placed.program, nullptr);
+  EXPECT_THAT(journal_.all(), ElementsAre(kStored, "start /opt/calvero", "store cvrOnline=0"));
+}
+
+TEST_F(PlaceOrder, StartsNothingWhenTheStoreCannotBeWritten) {
+  tags_.setWritable(false);
+  EXPECT_THROW(place(), TagStoreFailure);
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
+TEST_F(PlaceOrder, StoresNothingWhenTheStoreCannotBeRead) {
+  tags_.setReadable(false);
+  EXPECT_THROW(place(), TagStoreFailure);
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
+class OrderWatchTest : public testing::Test {
+ protected:
+  [[nodiscard]] Answer result() const { return watch_.result("stick (/media/stick)", 2); }
+  bool lookAfter(std::chrono::seconds time) { return watch_.hasEnded(time); }
+
+  Journal journal_;
+  FakeOrderTags tags_{journal_};
+  FakeProgram program_;
+  OrderWatch watch_{tags_, program_};
+};
+
+constexpr std::chrono::seconds kStart{0};
+
+TEST_F(OrderWatchTest, WaitsForTheProgramAlsoOnceThereIsAStatus) {
+  EXPECT_FALSE(lookAfter(kStart));
+  tags_.put(kTagStatus, kStatusFinished);
+  EXPECT_FALSE(lookAfter(kStart));
+  program_.end();
+  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_EQ(result().exitCode, ExitCode::finished);
+  EXPECT_THAT(result().line, AllOf(StartsWith("Finished: "), HasSubstr("stick (/media/stick)"),
+                                   HasSubstr("method 3 (dod)"), HasSubstr("calvero-cli clear")));
+}
+
+TEST_F(OrderWatchTest, WaitsNoLongerThanHalfAMinuteForAProgramThatHasReportedItsEnd) {
+  tags_.put(kTagStatus, kStatusFinished);
+  EXPECT_FALSE(lookAfter(kStart));
+  EXPECT_FALSE(lookAfter(std::chrono::seconds(29)));
+  EXPECT_TRUE(lookAfter(std::chrono::seconds(30)));
+  EXPECT_EQ(result().exitCode, ExitCode::finished);
+}
+
+TEST_F(OrderWatchTest, ReportsALostVolumeAsFailed) {
+  tags_.put(kTagStatus, kStatusFailed);
+  program_.end();
+  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_EQ(result().exitCode, ExitCode::failed);
+  EXPECT_THAT(result().line, AllOf(StartsWith("Failed: "), HasSubstr("may remain readable")));
+}
+
+TEST_F(OrderWatchTest, ReportsARunThatHasFollowedARequestAsCancelled) {
+  tags_.put(kTagCancel, "0");
+  tags_.put(kTagStatus, kStatusFailed);
+  program_.end();
+  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_EQ(result().exitCode, ExitCode::cancelled);
+  EXPECT_THAT(result().line, StartsWith("Cancelled: "));
+}
+
+TEST_F(OrderWatchTest, RemembersARequestThatIsTakenBackBeforeTheEnd) {
+  tags_.put(kTagCancel, "1");
+  EXPECT_FALSE(lookAfter(kStart));
+  tags_.put(kTagCancel, "");
+  tags_.put(kTagStatus, kStatusFailed);
+  program_.end();
+  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_EQ(result().exitCode, ExitCode::cancelled);
+}
+
+TEST_F(OrderWatchTest, ReportsARunThatFinishesInSpiteOfARequestAsFinished) {
+  tags_.put(kTagCancel, "1");
+  tags_.put(kTagStatus, kStatusFinished);
+  program_.end();
+  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_EQ(result().exitCode, ExitCode::finished);
+}
+
+TEST_F(OrderWatchTest, ReportsAProgramThatEndsWithoutAStatusAsFailed) {
+  program_.end("signal 9");
+  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_EQ(result().exitCode, ExitCode::failed);
+  EXPECT_THAT(result().line, AllOf(HasSubstr("without a status"), HasSubstr("signal 9")));
+}
+
+TEST_F(OrderWatchTest, OutlastsAStoreThatCannotBeReadForAWhile) {
+  tags_.setReadable(false);
+  EXPECT_FALSE(lookAfter(kStart));
+  tags_.setReadable(true);
+  tags_.put(kTagStatus, kStatusFinished);
+  program_.end();
+  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_EQ(result().exitCode, ExitCode::finished);
+}
+
+TEST_F(OrderWatchTest, TellsOfAnUnreadableStoreWhenTheProgramHasEnded) {
+  tags_.setReadable(false);
+  program_.end();
+  EXPECT_THROW(lookAfter(kStart), TagStoreFailure);
+}
+
+}  // namespace
+}  // namespace calvero

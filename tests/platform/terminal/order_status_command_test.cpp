@@ -1,0 +1,95 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "platform/terminal/commands/status_command.h"
+#include "tests/platform/terminal/fake_order_tags.h"
+
+namespace calvero {
+namespace {
+
+using testing::HasSubstr;
+
+PendingOrder orderOf(const std::string& volume, const std::string& method, const std::string& status = "") {
+  return {.isPending = true, .volume = volume, .method = method, .status = status, .cancel = ""};
+}
+
+nlohmann::json jsonOf(const PendingOrder& order, RunState run = RunState::none) {
+  return nlohmann::json::parse(statusJson(order, run));
+}
+
+TEST(ReadPendingOrder, TakesOnlyOneForPending) {
+  testing::Journal journal;
+  testing::FakeOrderTags tags(journal);
+  EXPECT_FALSE(readPendingOrder(tags).exists());
+  tags.putOrder("stick", "3");
+  EXPECT_TRUE(readPendingOrder(tags).isPending);
+  for (const char* other : {"", "0", "01", "1 ", "true"}) {
+    tags.put(kTagOnline, other);
+    EXPECT_FALSE(readPendingOrder(tags).isPending) << other;
+    EXPECT_TRUE(readPendingOrder(tags).exists()) << other;
+  }
+}
+
+TEST(StatusText, IsThreeLines) {
+  EXPECT_EQ(statusText({}, RunState::none), "Order:  none\nRun:    none\nStatus: none\n");
+  EXPECT_EQ(statusText(orderOf("stick", "3"), RunState::underWay),
+            "Order:  \"stick\" with method 3 (dod), pending\nRun:    under way\nStatus: none yet\n");
+}
+
+TEST(StatusText, SaysTheStatusInWordsAndAsANumber) {
+  EXPECT_THAT(statusText(orderOf("stick", "3", "2"), RunState::none), HasSubstr("Status: 2, finished\n"));
+  EXPECT_THAT(statusText(orderOf("stick", "3", "3"), RunState::none), HasSubstr("Status: 3, not finished: "));
+}
+
+TEST(StatusText, TellsOfARequestToCancel) {
+  PendingOrder order = orderOf("stick", "3");
+  EXPECT_THAT(statusText(order, RunState::underWay), testing::Not(HasSubstr("Cancel")));
+  order.cancel = "1";
+  EXPECT_THAT(statusText(order, RunState::underWay), HasSubstr("\nCancel: asked for\n"));
+}
+
+TEST(StatusText, SaysWhichMethodARunTakesWhereNoneIsNamed) {
+  EXPECT_THAT(statusText(orderOf("stick", "abc"), RunState::none),
+              HasSubstr("with method 1 (zero), since \"abc\" names none, pending\n"));
+}
+
+TEST(StatusText, ShowsHostileTextsAsEscapes) {
+  EXPECT_EQ(statusText(orderOf("a\033[2J", "\n", "\r"), RunState::none),
+            "Order:  \"a\\033[2J\" with method 1 (zero), since \"\\012\" names none, pending\nRun:    none\n"
+            "Status: unknown: \"\\015\"\n");
+}
+
+TEST(StatusText, KeepsAnOrderThatIsNotPendingApart) {
+  PendingOrder order = orderOf("stick", "3", "2");
+  order.isPending = false;
+  EXPECT_THAT(statusText(order, RunState::none), HasSubstr("(dod), not pending\n"));
+}
+
+TEST(StatusJson, IsNullWhereThereIsNoOrder) {
+  EXPECT_EQ(jsonOf({}), nlohmann::json::parse(R"({"pending": false, "volume": null, "method": null, "running": false,
+      "cancelAsked": false, "status": null, "outcome": "none"})"));
+}
+
+TEST(StatusJson, GivesTheOrderItsRunAndItsStatus) {
+  PendingOrder order = orderOf("stick", "9", "3");
+  order.cancel = "1";
+  EXPECT_EQ(jsonOf(order, RunState::underWay),
+            nlohmann::json::parse(R"({"pending": true, "volume": "stick", "method": 9, "running": true,
+      "cancelAsked": true, "status": 3, "outcome": "failed"})"));
+}
+
+TEST(StatusJson, KnowsTheTwoStatusesOnly) {
+  EXPECT_EQ(jsonOf(orderOf("stick", "1", "2"))["outcome"], "finished");
+  EXPECT_EQ(jsonOf(orderOf("stick", "1"))["outcome"], "none");
+  EXPECT_EQ(jsonOf(orderOf("stick", "1", "12"))["outcome"], "unknown");
+  EXPECT_TRUE(jsonOf(orderOf("stick", "1", "12"))["status"].is_null());
+}
+
+TEST(StatusJson, GivesTheMethodThatARunTakesWhereNoneIsNamed) {
+  EXPECT_EQ(jsonOf(orderOf("stick", "0"))["method"], 1);
+}
+
+}  // namespace
+}  // namespace calvero
