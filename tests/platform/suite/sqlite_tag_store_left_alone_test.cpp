@@ -88,7 +88,10 @@ TEST_F(AStoreThatIsNone, IsLeftAloneWhenItIsAnotherProgramsDatabase) {
 
 TEST_F(AStoreThatIsNone, IsLeftAloneWhenItsLayoutIsNotKnown) {
   for (const std::string sql : {"PRAGMA user_version = 2", "DROP TABLE tags; CREATE TABLE other (tag)",
-                                "ALTER TABLE tags RENAME COLUMN value TO content"}) {
+                                "ALTER TABLE tags RENAME COLUMN value TO content",
+                                "CREATE TRIGGER other AFTER INSERT ON tags BEGIN UPDATE tags SET value = '9'; END",
+                                "ALTER TABLE tags RENAME TO other; CREATE VIEW tags AS WITH RECURSIVE"
+                                " n AS (SELECT * FROM other UNION ALL SELECT * FROM n) SELECT * FROM n"}) {
     std::filesystem::remove(path());
     makeStore();
     runSql(path(), sql);

@@ -81,12 +81,12 @@ TEST_F(TheDocumentedCommands, MakeAStoreAtTheSameMomentAsCalvero) {
     std::filesystem::remove_all(folder() + "/data");
     ChildProcess calvero([&] {
       SqliteTagStore store(storePath(), log_);
-      store.setValue("cvrStatus", "2");
+      store.setValue("LANG", "de");
       return store.waitUntilStored(kLong) && log_.linesWith("left alone") == 0;
     });
     EXPECT_EQ(run(commands_[kMake] + commands_[kWrite]), "") << "round " << round;
     EXPECT_TRUE(calvero.succeeded()) << "round " << round;
-    EXPECT_EQ(tagIn(storePath(), "cvrStatus"), "2");
+    EXPECT_EQ(tagIn(storePath(), "LANG"), "de");
     EXPECT_EQ(tagIn(storePath(), "cvrOnline"), "1");
   }
 }

@@ -1,0 +1,76 @@
+"""Orders given with calvero-cli and carried out by the real program."""
+
+import os
+import shutil
+import subprocess
+
+from remote_case import FAILED, FINISHED, SLOWEST, RemoteTest, killProgramsOf
+from testkit import program
+from testkit.program import startedAs
+
+
+class OrderCommand(RemoteTest):
+    def setUp(self):
+        super().setUp()
+        self.order = self.makeOrder("nothing yet")
+        os.remove(self.order.tags.path)
+        self.startBus(self.order)
+        self.programs = self.makeFolder()
+        shutil.copy(program.windowProgramPath(), os.path.join(self.programs, "calvero"))
+        self.command = shutil.copy(program.programPath(), os.path.join(self.programs, "calvero-cli"))
+        # What it orders has a session of its own and would outlive a test that fails.
+        self.addCleanup(killProgramsOf, self.programs)
+
+    def start(self, *arguments):
+        process = subprocess.Popen([self.command, *arguments], env=self.order.env, stdin=subprocess.DEVNULL,
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, **startedAs(False))
+        self.addCleanup(process.communicate)
+        self.addCleanup(process.kill)
+        return process
+
+    def complete(self, *arguments):
+        return self.finish(self.start(*arguments))
+
+    def testAWaitEndsWithTheFinishedRun(self):
+        target = self.makeVolume("ext4", 16)
+        code, output, errors = self.complete("order", target.name, "--method", "dod", "--wait")
+        self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
+        self.assertIn("Finished", output.splitlines()[-1])
+        self.assertEqual(self.order.tags.read(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "3",
+                                                  "cvrStatus": FINISHED, "CVRCANCEL": ""})
+        self.assertNothingLeft(target)
+
+    def testAWaitTellsACancelWhichIsFollowedAtOnce(self):
+        target = self.makeVolume("ext4", 256)
+        waiting = self.start("order", target.name, "--method", SLOWEST, "--wait")
+        self.waitUntilWriting(target)
+        refused = self.complete("order", target.name, "--method", "1")
+        self.assertEqual(refused[0], program.EXIT_REFUSED, refused)
+        code, output, errors = self.complete("cancel", "--wait")
+        self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
+        code, output, errors = self.finish(waiting)
+        self.assertEqual(code, program.EXIT_CANCELLED, (output, errors))
+        self.assertIn("Cancelled", (output + errors).splitlines()[-1])
+        self.assertEqual(self.order.status, FAILED)
+        self.assertNothingLeft(target)
+
+    def testAWaitTellsAVolumeThatIsGone(self):
+        target = self.makeVolume("ext4", 96)
+        waiting = self.start("order", target.name, "--method", "1", "--wait")
+        self.waitUntilWriting(target)
+        target.detach()
+        code, output, errors = self.finish(waiting)
+        self.assertEqual(code, program.EXIT_FAILED, (output, errors))
+        self.assertEqual(self.order.status, FAILED)
+
+    def testTheOrderOutlivesTheCommandAndCanBeFollowed(self):
+        target = self.makeVolume("ext4", 24)
+        code, output, errors = self.complete("order", target.path, "--method", "6")
+        self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
+        self.waitUntilWriting(target)
+        self.assertIn("under way", self.complete("status")[1])
+        self.assertEqual(self.complete("clear")[0], program.EXIT_REFUSED)
+        self.assertEqual(self.order.waitForStatus()[0], FINISHED)
+        self.assertEqual(self.complete("clear")[0], program.EXIT_FINISHED)
+        self.assertEqual(self.order.tags.read()["cvrOnline"], "0")
+        self.assertNothingLeft(target)
