@@ -3,17 +3,19 @@
 import time
 
 from remote_case import SLOWEST, RemoteTest
+from testkit.volume import MEBIBYTE
 
 POLL_SECONDS = 60
 SPARE_SECONDS = 8
-# Still being written after the poll.
-MEBIBYTES = 1000
+# Still being written after the poll, on a fast machine too; only what is written of it takes memory.
+MEBIBYTES = 4000
+NEEDED_BYTES = 1200 * MEBIBYTE
 
 
 class CancelTag(RemoteTest):
     def testIsFollowedWithinAMinuteAndSetBackAndNothingElseCancels(self):
         # The one that goes on is started first, so that it has looked by the time the other one does.
-        other, target = self.makeVolume("ext4", MEBIBYTES), self.makeVolume("ext4", MEBIBYTES)
+        other, target = (self.makeVolume("ext4", MEBIBYTES, neededBytes=NEEDED_BYTES) for _ in range(2))
         goesOn = self.startOrder(other, SLOWEST)
         self.waitUntilWriting(other)
         order = self.startOrder(target, SLOWEST)

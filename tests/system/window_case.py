@@ -145,6 +145,9 @@ class WindowTest(SystemTest):
         self.answer(window, title, button=re.compile("^(OK|Ok)$"))
 
 
+LASTING_THREADS = ("calvero-dbus", "calvero-tags")
+
+
 def runThreads(window):
     """Names of the threads of a run."""
     names = []
@@ -155,4 +158,4 @@ def runThreads(window):
                 names.append(file.read().strip())
         except FileNotFoundError:
             continue
-    return [name for name in names if name.startswith("calvero-")]
+    return [name for name in names if name.startswith("calvero-") and name not in LASTING_THREADS]
