@@ -55,9 +55,17 @@ FOLLOW_A_REQUEST = 'waitUntil(lambda: read("CVRCANCEL") == "1")\nwrite("CVRCANCE
 class OrderTest(SystemTest):
     """The program in a folder of its own, beside which there is nothing yet, with a store that is not there yet."""
 
+    def removeFolder(self):
+        """What an order has started may still be writing into it."""
+        def isGone():
+            shutil.rmtree(self.folder, ignore_errors=True)
+            return not os.path.exists(self.folder)
+
+        program.waitUntil(isGone, "the folder is removed")
+
     def setUp(self):
         self.folder = tempfile.mkdtemp(prefix="calvero-orders-")
-        self.addCleanup(shutil.rmtree, self.folder)
+        self.addCleanup(self.removeFolder)
         self.command = shutil.copy(program.programPath(), self.folder)
         self.store = os.path.join(self.folder, "tags.sqlite")
         # No bus either: a window that somebody uses would take a cancel for its own.
