@@ -153,8 +153,11 @@ void WizardSession::tellLostVolume() {
     return;
   }
   listsAfterOk_ = true;
-  ports_.controls.bringToFront(Control::windowCompleted);
+  // Its place before it is seen: a window that loses its frame while the window manager hands it the focus may leave
+  // the main window without any.
+  showOutcome();
   app_.positionHUDWindow();
+  ports_.controls.bringToFront(Control::windowCompleted);
 }
 
 void WizardSession::showOutcome() {
