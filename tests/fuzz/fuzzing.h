@@ -1,15 +1,14 @@
 #pragma once
 
-#include <unistd.h>
-
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <string_view>
+
+#include "tests/scoped_folder.h"
 
 // What libFuzzer calls, again and again in one process.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t bytes);
@@ -26,25 +25,6 @@ inline void require(bool kept, const char* promise) {
 inline std::string_view textOf(const std::uint8_t* data, std::size_t bytes) {
   return {reinterpret_cast<const char*>(data), bytes};
 }
-
-/// A folder in $TMPDIR that ends with the program.
-class ScratchFolder {
- public:
-  ScratchFolder() : path_(std::filesystem::temp_directory_path().string() + "/calvero-fuzz-XXXXXX") {
-    require(::mkdtemp(path_.data()) != nullptr, "a folder can be made");
-  }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  ~ScratchFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  [[nodiscard]] std::string file(const std::string& name) const { return path_ + '/' + name; }
-
- private:
-  std::string path_;
-};
 
 inline void putBytes(const std::string& path, std::string_view bytes) {
   std::ofstream file(path, std::ios::binary);

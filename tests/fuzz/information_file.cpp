@@ -4,8 +4,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t bytes) {
   using namespace calvero::fuzzing;
-  static const ScratchFolder folder;
-  const std::string path = folder.file("infoMaster.plist");
+  static const testing::ScopedFolder folder;
+  const std::string path = folder.path() + "/infoMaster.plist";
   putBytes(path, textOf(data, bytes));
   for (const auto& [key, value] : calvero::PlistInformationFile().read(path)) {
     require(key.size() <= bytes, "a key is no longer than the file");

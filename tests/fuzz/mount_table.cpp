@@ -37,8 +37,8 @@ void readTable(const std::string& path) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t bytes) {
   using namespace calvero::fuzzing;
-  static const ScratchFolder folder;
-  const std::string path = folder.file("mountinfo");
+  static const testing::ScopedFolder folder;
+  const std::string path = folder.path() + "/mountinfo";
   putBytes(path, textOf(data, bytes));
   readTable(path);
   return 0;

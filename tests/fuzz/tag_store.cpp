@@ -21,7 +21,7 @@ enum class Form : std::uint8_t {
 /// The store's place, with what another program may have left there.
 class StorePlace {
  public:
-  StorePlace() : path_(folder_.file("tags.sqlite")) {
+  StorePlace() : path_(folder_.path() + "/tags.sqlite") {
     require(writeTags(path_, {{kTag, "1"}, {"cvrDrive", "BACKUP"}, {"cvrAlgo", "5"}}).state == StoreState::fine,
             "a store can be made");
     store_ = bytesOf(path_);
@@ -68,7 +68,7 @@ class StorePlace {
 
   static constexpr std::size_t kHeaderBytes = 100;
 
-  const ScratchFolder folder_;
+  const testing::ScopedFolder folder_;
   const std::string path_;
   std::string store_;
 };

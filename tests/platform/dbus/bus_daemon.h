@@ -10,7 +10,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "tests/platform/linux/mount_table_file.h"
+#include "tests/scoped_folder.h"
 
 namespace calvero::testing {
 

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 #include <sys/sysmacros.h>
 
-#include "tests/platform/linux/mount_table_file.h"
+#include <filesystem>
+#include <fstream>
+
+#include "tests/scoped_folder.h"
 
 namespace calvero::testing {
 namespace {

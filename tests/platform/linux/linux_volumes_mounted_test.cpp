@@ -3,6 +3,7 @@
 #include <sys/sysmacros.h>
 
 #include <algorithm>
+#include <fstream>
 
 #include "platform/linux/linux_volumes.h"
 #include "platform/linux/posix_files.h"

@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "tests/platform/linux/mount_table_file.h"
+#include "tests/scoped_folder.h"
 
 namespace calvero::testing {
 namespace {

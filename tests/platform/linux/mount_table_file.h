@@ -1,39 +1,12 @@
 #pragma once
 
-#include <gtest/gtest.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
 #include <string>
 
+#include "tests/scoped_folder.h"
+
 namespace calvero::testing {
-
-/// A folder that ends with the test.
-class ScopedFolder {
- public:
-  ScopedFolder() : path_(::testing::TempDir() + "calvero-XXXXXX") {
-    if (::mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no folder can be made in " + path_);
-  }
-  ScopedFolder(const ScopedFolder&) = delete;
-  ScopedFolder& operator=(const ScopedFolder&) = delete;
-  ~ScopedFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  [[nodiscard]] const std::string& path() const { return path_; }
-  /// A folder inside, made with those above it.
-  [[nodiscard]] std::string make(const std::string& name) const {
-    std::filesystem::create_directories(path_ + '/' + name);
-    return path_ + '/' + name;
-  }
-
- private:
-  std::string path_;
-};
 
 /// A mount table as a test wants the kernel to tell it.
 class MountTableFile {

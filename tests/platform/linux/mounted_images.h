@@ -18,7 +18,7 @@
 #include <vector>
 
 #include "platform/linux/descriptor.h"
-#include "tests/platform/linux/mount_table_file.h"
+#include "tests/scoped_folder.h"
 
 namespace calvero::testing {
 

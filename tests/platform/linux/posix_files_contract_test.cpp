@@ -1,7 +1,11 @@
 #include <sys/stat.h>
 
+#include <filesystem>
+#include <fstream>
+
+#include "platform/linux/posix_files.h"
 #include "tests/contracts/files_contract.h"
-#include "tests/platform/linux/posix_files_test_volume.h"
+#include "tests/scoped_folder.h"
 
 namespace calvero::testing {
 namespace {
@@ -10,18 +14,8 @@ namespace fs = std::filesystem;
 
 class PosixWorld : public FilesWorld {
  public:
-  PosixWorld() {
-    std::string pattern = ::testing::TempDir() + "calvero-contract-XXXXXX";
-    if (::mkdtemp(pattern.data()) == nullptr) throw fs::filesystem_error("mkdtemp", std::error_code());
-    volume_ = pattern;
-  }
-  ~PosixWorld() override {
-    std::error_code ignored;
-    fs::remove_all(volume_, ignored);
-  }
-
   Files& files() override { return files_; }
-  std::string volumePath() override { return volume_; }
+  std::string volumePath() override { return folder_.path(); }
 
   void plantDirectory(const std::string& path) override { fs::create_directory(path); }
   void plantForeignDirectory(const std::string& path) override { std::ofstream(path) << "precious"; }
@@ -41,7 +35,7 @@ class PosixWorld : public FilesWorld {
   }
 
  private:
-  std::string volume_;
+  const ScopedFolder folder_;
   PosixFiles files_;
 };
 

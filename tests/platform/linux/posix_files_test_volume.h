@@ -12,6 +12,7 @@
 #include <string>
 
 #include "platform/linux/posix_files.h"
+#include "tests/scoped_folder.h"
 
 namespace calvero::testing {
 
@@ -38,20 +39,7 @@ class ScopedMount {
 /// A folder that stands for a volume, and beside it a precious file that no run may touch.
 class FillerVolume : public ::testing::Test {
  protected:
-  FillerVolume() {
-    std::string pattern = ::testing::TempDir() + "calvero-volume-XXXXXX";
-    if (::mkdtemp(pattern.data()) == nullptr) throw std::filesystem::filesystem_error("mkdtemp", std::error_code());
-    top_ = pattern;
-    volume_ = top_ + "/volume";
-    directory_ = volume_ + "/.filler";
-    precious_ = volume_ + "/precious";
-    std::filesystem::create_directory(volume_);
-    plantPrecious();
-  }
-  ~FillerVolume() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(top_, ignored);
-  }
+  FillerVolume() { plantPrecious(); }
 
   void plantPrecious() const { writeFile(precious_, kPreciousText); }
   [[nodiscard]] bool preciousIsUntouched() const { return readFile(precious_) == kPreciousText; }
@@ -96,10 +84,11 @@ class FillerVolume : public ::testing::Test {
   static constexpr const char* kPreciousText = "precious";
   static constexpr uid_t kAnotherUser = 65533;
 
-  std::string top_;
-  std::string volume_;
-  std::string directory_;
-  std::string precious_;
+  const ScopedFolder folder_;
+  const std::string top_ = folder_.path();
+  const std::string volume_ = folder_.make("volume");
+  const std::string directory_ = volume_ + "/.filler";
+  const std::string precious_ = volume_ + "/precious";
   PosixFiles files_;
   Error error_;
 };

@@ -14,7 +14,7 @@
 
 #include "platform/suite/sqlite_tag_store.h"
 #include "ports/system_log.h"
-#include "tests/platform/linux/mount_table_file.h"
+#include "tests/scoped_folder.h"
 
 namespace calvero::testing {
 

@@ -13,8 +13,8 @@
 #include <thread>
 
 #include "platform/terminal/commands/window_program.h"
-#include "tests/platform/linux/mount_table_file.h"
 #include "tests/platform/terminal/order_testing.h"
+#include "tests/scoped_folder.h"
 
 namespace calvero {
 namespace {
