@@ -8,6 +8,8 @@
 
 #include <array>
 #include <csignal>
+#include <stdexcept>
+#include <string>
 
 namespace calvero {
 namespace {
@@ -20,7 +22,6 @@ class Terminal {
   explicit Terminal(unsigned short columns) {
     winsize size{24, columns, 0, 0};
     EXPECT_EQ(::openpty(&controller_, &terminal_, nullptr, nullptr, &size), 0);
-    ::fcntl(controller_, F_SETFL, O_NONBLOCK);
   }
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
@@ -30,10 +31,20 @@ class Terminal {
   }
 
   [[nodiscard]] Output output() const { return Output(terminal_); }
+  /// What has been printed since the last call. It arrives in pieces, and later than it was written: a mark tells the
+  /// end.
   std::string printed() {
+    constexpr char kMark = '\1';
+    EXPECT_EQ(::write(terminal_, &kMark, 1), 1);
+    std::string text;
     std::array<char, 4096> buffer{};
-    const ssize_t bytes = ::read(controller_, buffer.data(), buffer.size());
-    return bytes > 0 ? std::string(buffer.data(), static_cast<std::size_t>(bytes)) : "";
+    while (text.empty() || text.back() != kMark) {
+      const ssize_t bytes = ::read(controller_, buffer.data(), buffer.size());
+      if (bytes <= 0) throw std::runtime_error("the terminal cannot be read");
+      text.append(buffer.data(), static_cast<std::size_t>(bytes));
+    }
+    text.pop_back();
+    return text;
   }
   void vanish() {
     ::close(controller_);
