@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/accessibility.h"
 #include "platform/qt/item_view.h"
-#include "platform/qt/tile_accessibility.h"
 #include "platform/qt/widget_text.h"
 
 namespace calvero {
@@ -34,7 +34,7 @@ QScrollArea* scrollAreaAround(const QWidget* widget) {
 }  // namespace
 
 TileGrid::TileGrid(QWidget* parent) : QWidget(parent), tileSize_(ItemView::fittingSize(fontMetrics())) {
-  installTileAccessibility();
+  installAccessibility();
   QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   policy.setHeightForWidth(true);
   setSizePolicy(policy);

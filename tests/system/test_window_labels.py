@@ -71,4 +71,4 @@ class HostileLabels(WindowTest):
         self.checkErased(target, window)
 
     def widthOf(self, window):
-        return window.bounds(window.find("filler", "Calvero"))[2]
+        return window.bounds(window.find("frame", "Calvero"))[2]

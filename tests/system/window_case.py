@@ -43,7 +43,7 @@ class WindowTest(SystemTest):
         """The program with its first page shown."""
         window = WindowProgram(self.screen, options.pop("command", None) or [self.windowProgramFor()], **options)
         self.addCleanup(window.close)
-        window.find("filler", "Calvero", timeout=_START_SECONDS)
+        window.find("frame", "Calvero", timeout=_START_SECONDS)
         return window
 
     def makeFuseVolume(self, mebibytes):

@@ -1,6 +1,7 @@
 #include "platform/qt/main_window.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
@@ -59,6 +60,12 @@ TEST_F(MainWindowTest, TellsWhichButtonWasPressed) {
   press("completedOk");
   EXPECT_THAT(told, ElementsAre("next", "reload", "home", "help", "get it now", "cloud", "facebook", "twitter",
                                 "google", "back", "proceed", "cancel", "page ok", "window ok"));
+}
+
+TEST_F(MainWindowTest, IsAWindowToAScreenReader) {
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&window);
+  EXPECT_EQ(accessible->role(), QAccessible::Window);
+  EXPECT_EQ(accessible->text(QAccessible::Name), "Calvero");
 }
 
 TEST_F(MainWindowTest, OffersToListTheDrivesAgainWhereThereIsNone) {

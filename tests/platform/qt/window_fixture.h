@@ -15,15 +15,11 @@
 #include "platform/qt/tile_grid.h"
 #include "platform/qt/volume_page.h"
 #include "platform/qt/widget_controls.h"
-#include "ports/localisation.h"
+#include "tests/fakes/small_fakes.h"
 
 namespace calvero::testing {
 
 constexpr int kWaitMilliseconds = 10'000;
-
-struct EnglishTexts : Localisation {
-  std::string localised(const std::string& key) const override { return key; }
-};
 
 inline MountedVolume volume(const std::string& name) {
   MountedVolume volume;
@@ -40,7 +36,7 @@ class WindowTest : public ::testing::Test {
  protected:
   WindowTest() {
     window.setSizeFormatter([](std::uint64_t bytes) { return std::to_string(bytes) + " B"; });
-    window.setTexts(EnglishTexts());
+    window.setTexts(FakeLocalisation());
   }
 
   void show() {

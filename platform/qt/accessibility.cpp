@@ -1,9 +1,10 @@
-#include "platform/qt/tile_accessibility.h"
+#include "platform/qt/accessibility.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 
 #include "platform/qt/item_view.h"
+#include "platform/qt/main_window.h"
 #include "platform/qt/tile_grid.h"
 
 namespace calvero {
@@ -60,6 +61,8 @@ class AccessibleGrid : public QAccessibleWidget {
 };
 
 QAccessibleInterface* interfaceFor(const QString&, QObject* object) {
+  // Without a role of its own a plain widget counts as filling, even when it is a window.
+  if (auto* window = qobject_cast<MainWindow*>(object)) return new QAccessibleWidget(window, QAccessible::Window);
   if (auto* tile = qobject_cast<ItemView*>(object)) return new AccessibleTile(tile);
   if (auto* grid = qobject_cast<TileGrid*>(object)) return new AccessibleGrid(grid);
   return nullptr;
@@ -67,7 +70,7 @@ QAccessibleInterface* interfaceFor(const QString&, QObject* object) {
 
 }  // namespace
 
-void installTileAccessibility() {
+void installAccessibility() {
   QAccessible::installFactory(interfaceFor);  // kept once, however often it is given
 }
 
