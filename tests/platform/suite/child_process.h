@@ -5,6 +5,7 @@
 
 #include <csignal>
 #include <functional>
+#include <stdexcept>
 
 namespace calvero::testing {
 
@@ -49,7 +50,9 @@ class ChildProcess {
 /// Lets processes go at one moment: it is made before them, and they wait until it is opened.
 class StartingGate {
  public:
-  StartingGate() { ::pipe(ends_); }
+  StartingGate() {
+    if (::pipe(ends_) != 0) throw std::runtime_error("no pipe can be made");
+  }
   StartingGate(const StartingGate&) = delete;
   StartingGate& operator=(const StartingGate&) = delete;
   ~StartingGate() {
