@@ -14,6 +14,7 @@ namespace calvero {
 namespace {
 
 constexpr std::chrono::milliseconds kRetryPause{500};
+constexpr int kAttemptsWorthALine = 5;  // among several programs a lock is in the way every now and then
 
 constexpr const char* kUnreadable = "cannot be read";
 constexpr const char* kUnwritable = "cannot be written yet";
@@ -111,13 +112,14 @@ void SqliteTagStore::write(const std::stop_token& stop) {
 /// False when it has to be tried again.
 bool SqliteTagStore::storeOrDrop(const std::vector<TagValue>& batch) {
   const StoreOutcome outcome = writeTags(path_, batch);
+  lockedAttempts_ = outcome.state == StoreState::busy ? lockedAttempts_ + 1 : 0;
   if (outcome.state == StoreState::fine) return true;
   if (outcome.state == StoreState::leftAlone) {
     reportOnce(kLeftAlone, outcome.detail);
     for (const TagValue& entry : batch) log_.line("tag " + entry.tag + " is not stored");
     return true;
   }
-  reportOnce(kUnwritable, outcome.detail);
+  if (lockedAttempts_ == 0 || lockedAttempts_ >= kAttemptsWorthALine) reportOnce(kUnwritable, outcome.detail);
   return false;
 }
 

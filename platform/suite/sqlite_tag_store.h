@@ -63,6 +63,7 @@ class SqliteTagStore : public TagStore {
   Ticket lastGiven_ = 0;
   Ticket lastSettled_ = 0;
   std::set<std::string> reported_;
+  int lockedAttempts_ = 0;  // in a row; the writer's own
   std::jthread writer_;
 };
 

@@ -3,6 +3,7 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -26,10 +27,17 @@ std::optional<std::string> storedValue(SQLite::Database& database, const std::st
   if (result == SQLITE_DONE || result == SQLITE_TOOBIG) return std::nullopt;
   if (result != SQLITE_ROW) throw SQLite::Exception(database.getHandle(), result);
   const SQLite::Column column = query.getColumn(0);
-  if (!column.isText()) return std::nullopt;
+  // A table that another program has made may hold numbers as such.
+  if (column.isBlob() || column.isNull()) return std::nullopt;
   std::string value = column.getString();
   const bool isWithinBounds = value.size() <= kMaxValueBytes && value.find('\0') == std::string::npos;
   return isWithinBounds ? std::optional(std::move(value)) : std::nullopt;
+}
+
+bool readAs(SQLite::Database& database, const std::vector<TagValue>& expected) {
+  return std::ranges::all_of(expected, [&database](const TagValue& entry) {
+    return storedValue(database, entry.tag).value_or("") == entry.value;
+  });
 }
 
 void storeValues(SQLite::Database& database, const std::vector<TagValue>& tags) {
@@ -54,14 +62,16 @@ void layOutNewStore(const std::string& path) {
   database.exec(kWriteAheadLog);
 }
 
-void write(const std::string& path, const std::vector<TagValue>& tags) {
+StoreOutcome write(const std::string& path, const std::vector<TagValue>& tags, const std::vector<TagValue>& expected) {
   SQLite::Database database = openConnection(path, Access::readWrite, kWritePatience);
   SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
   if (verifiedContent(database) == Content::none) database.exec(kLayout);
+  if (!readAs(database, expected)) return {StoreState::changed, "another program has changed it meanwhile"};
   storeValues(database, tags);
   transaction.commit();
   // Another program may have made the store without it. This needs the store for itself; the next write tries again.
   database.tryExec(kWriteAheadLog);
+  return {};
 }
 
 TagReading read(const std::string& path, Access access, const std::string& tag) {
@@ -121,11 +131,12 @@ StoreOutcome outcomeAt(const std::string& path) {
 TagReading readTag(const std::string& path, const std::string& tag) {
   TagReading reading{.outcome = outcomeAt(path), .value = {}};
   if (reading.outcome.state != StoreState::fine) return reading;
+  const std::string file = withoutLinks(path);
   for (const Access access : {Access::readWrite, Access::readOnly, Access::unlocked}) {
     // An old value would be worse than none: it may be an order that was called off.
-    if (access == Access::unlocked && !isComplete(path)) break;
+    if (access == Access::unlocked && !isComplete(file)) break;
     reading.outcome = outcomeOf([&] {
-      TagReading read = calvero::read(path, access, tag);
+      TagReading read = calvero::read(file, access, tag);
       reading.value = std::move(read.value);
       return read.outcome;
     });
@@ -134,7 +145,8 @@ TagReading readTag(const std::string& path, const std::string& tag) {
   return reading;
 }
 
-StoreOutcome writeTags(const std::string& path, const std::vector<TagValue>& tags) {
+StoreOutcome writeTags(const std::string& path, const std::vector<TagValue>& tags,
+                       const std::vector<TagValue>& expected) {
   return outcomeOf([&] {
     StoreOutcome place = outcomeAt(path);
     if (place.state == StoreState::absent) {
@@ -142,8 +154,7 @@ StoreOutcome writeTags(const std::string& path, const std::vector<TagValue>& tag
     } else if (place.state != StoreState::fine) {
       return place;
     }
-    write(path, tags);
-    return StoreOutcome{};
+    return write(withoutLinks(path), tags, expected);
   });
 }
 

@@ -21,6 +21,7 @@ enum class StoreState {
   busy,       ///< another program keeps it locked
   unusable,   ///< cannot be opened, read or written at the moment: no permission, no space
   leftAlone,  ///< what is there is no tag store, or a damaged one
+  changed,    ///< a tag no longer reads as its writer took it to; nothing is stored
 };
 
 struct StoreOutcome {
@@ -39,7 +40,10 @@ struct TagReading {
 TagReading readTag(const std::string& path, const std::string& tag);
 
 /// Stores all of `tags` or none, in a store that it makes where there is none. Never changes a store that is left
-/// alone. Any thread; waits for a lock of other programs for half a second at most.
-StoreOutcome writeTags(const std::string& path, const std::vector<TagValue>& tags);
+/// alone, nor one in which a tag of `expected` reads otherwise by now; there an empty value stands for an absent one
+/// too. Nobody writes between that look and the change. Any thread; waits for a lock of other programs for half a
+/// second at most.
+StoreOutcome writeTags(const std::string& path, const std::vector<TagValue>& tags,
+                       const std::vector<TagValue>& expected = {});
 
 }  // namespace calvero

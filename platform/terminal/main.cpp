@@ -44,9 +44,9 @@ constexpr const char* kOtherOrderExitCodes =
 constexpr std::uint32_t kShortestWait = 1;  // seconds
 constexpr std::uint32_t kLongestWait = 1'000'000'000;
 
-void notifyOfCancel() {
+bool notifyOfCancel() {
   SyslogLog log;
-  postNotification(kCancelNotificationName, kCancelNotificationObject, log);
+  return postNotification(kCancelNotificationName, kCancelNotificationObject, log);
 }
 
 struct CommandLine {

@@ -163,6 +163,28 @@ TEST_F(RemoteMode, IgnoresTheNotificationWithAnotherObjectOrName) {
   EXPECT_FALSE(app.abortErasing());
 }
 
+TEST_F(RemoteMode, CancelledWhileTheFilesAreLaidOutEndsWithStatus3AndWithoutAnyPanel) {
+  world.order("DATA", "7");
+  world.launch();
+  world.tags.put("CVRCANCEL", "1");
+  world.files.script.before(FileCall::createFile, 1, [this] { minutePasses(); });
+  world.runWorker();
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_THAT(world.alerts.shown(), IsEmpty());
+  EXPECT_THAT(world.journal.only({"setTag cvrStatus \"2\""}), IsEmpty());
+  EXPECT_GE(world.loop.terminations(), 1);
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+}
+
+TEST_F(RemoteMode, CancelledByTheNotificationLeavesTheCancelTagAsItIs) {
+  world.order("DATA", "1");
+  world.launch();
+  world.tags.put("CVRCANCEL", "1");
+  world.systemNotifications.send("cancel wipe", "cancel");
+  EXPECT_EQ(world.tags.peek("CVRCANCEL"), "1");
+  EXPECT_THAT(world.journal.only({"setTag"}), ElementsAre("setTag cvrStatus \"3\""));
+}
+
 TEST_F(RemoteMode, StopsTheWorkerThatIsWritingWhenTheCancelTagIsSeen) {
   world.order("DATA", "3");
   world.launch();

@@ -7,12 +7,14 @@ import signal
 import subprocess
 import time
 
-from remote_case import FAILED, FINISHED, NOTICED_WITHIN_SECONDS, SLOWEST, RemoteTest, documentedCancels
+from remote_case import FAILED, FINISHED, NOTICED_WITHIN_SECONDS, RUN_SECONDS, SLOWEST, RemoteTest, documentedCancels
 from testkit import program
 from testkit.fuse_volume import FuseVolume
 from testkit.volume import MEBIBYTE, Unavailable
 
 ENDS_AT_ONCE_SECONDS = 5
+NO_CANCELS = (("cancel wipe", "other"), ("cancel wipe", ""), ("cancel wipe",), ("cancel", "cancel wipe"),
+              ("Cancel wipe", "cancel"), ("cancel wipe ", "cancel"), ("cancel wipe", "cancel", "cancel"))
 
 
 class MissingVolume(RemoteTest):
@@ -124,6 +126,39 @@ class Notifications(RemoteTest):
                 self.assertLess(time.monotonic() - began, 15)
                 self.assertNotIn("CVRCANCEL", order.tags.read())
 
+    def testAWipeInATerminalIsCancelledTooAndLeavesTheOrderAlone(self):
+        ordered = self.makeVolume("ext4", 16)
+        for mebibytes, method, notifications, code, outcome in (
+                (256, SLOWEST, [("cancel wipe", "cancel")], program.EXIT_CANCELLED, "cancelled"),
+                (32, "6", NO_CANCELS, program.EXIT_FINISHED, "finished")):
+            with self.subTest(outcome):
+                target = self.makeVolume("ext4", mebibytes)
+                freeBefore = target.freeBytes()
+                order = self.makeOrder(ordered)
+                before = order.tags.read()
+                self.startBus(order)
+                order.start([program.programPath(), "wipe", target.path, "--method", method, "--yes", "--json"])
+                self.waitUntilWriting(target)
+                self.assertStillWriting(order, target)
+                for texts in notifications:
+                    order.notify(*texts)
+                ended, printed = order.waitForEnd(RUN_SECONDS)
+                self.assertEqual(ended, code, printed)
+                self.assertIn(f'"outcome": "{outcome}"', printed)
+                self.assertEqual(order.tags.read(), before)
+                self.assertNothingLeft(target)
+                self.assertFreeAgain(target, freeBefore)
+
+    def testACancelWhileTheFilesAreLaidOutIsToldToo(self):
+        target = self.makeVolume("ext4", 256)
+        order = self.startWithBus(target, SLOWEST)
+        program.waitUntil(lambda: os.path.lexists(target.fillerDirectory()), "the filler directory")
+        order.notify("cancel wipe", "cancel")
+        self.assertEqual(order.waitForStatus(NOTICED_WITHIN_SECONDS)[0], FAILED)
+        self.assertEndedSilently(order)
+        self.assertEqual(order.status, FAILED)
+        self.assertNothingLeft(target)
+
     def testASecondNotificationChangesNothing(self):
         target = self.makeVolume("ext4", 256)
         order = self.startWithBus(target, SLOWEST)
@@ -136,8 +171,7 @@ class Notifications(RemoteTest):
         target = self.makeVolume("ext4", 32)
         order = self.startWithBus(target, "6")
         self.waitUntilWriting(target)
-        for texts in (("cancel wipe", "other"), ("cancel wipe", ""), ("cancel wipe",), ("cancel", "cancel wipe"),
-                      ("Cancel wipe", "cancel"), ("cancel wipe ", "cancel"), ("cancel wipe", "cancel", "cancel")):
+        for texts in NO_CANCELS:
             order.notify(*texts)
         self.assertStillWriting(order, target)
         self.expectFinish(order, target)

@@ -52,7 +52,23 @@ class OrderCommand(RemoteTest):
         self.assertEqual(code, program.EXIT_CANCELLED, (output, errors))
         self.assertIn("Cancelled", (output + errors).splitlines()[-1])
         self.assertEqual(self.order.status, FAILED)
+        self.assertNoRequestLeft()
         self.assertNothingLeft(target)
+
+    def testACancelThatTheNotificationHasDoneLeavesNoRequestForTheNextRun(self):
+        target = self.makeVolume("ext4", 256)
+        waiting = self.start("order", target.name, "--method", SLOWEST, "--wait")
+        self.waitUntilWriting(target)
+        code, output, errors = self.complete("cancel")
+        self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
+        self.assertIn("Cancelled", output.splitlines()[-1])
+        self.assertNoRequestLeft()
+        self.assertEqual(self.finish(waiting)[0], program.EXIT_CANCELLED)
+        self.assertEqual(self.order.status, FAILED)
+        self.assertNothingLeft(target)
+
+    def assertNoRequestLeft(self):
+        self.assertEqual(self.order.tags.read()["CVRCANCEL"], "0")
 
     def testAWaitTellsAVolumeThatIsGone(self):
         target = self.makeVolume("ext4", 96)

@@ -17,35 +17,53 @@ constexpr std::chrono::seconds kTimeForTheStatus{15};
 /// A run looks for the request once in `kCancelPollInterval`, and then gives its space back.
 constexpr std::chrono::seconds kTimeToFollow = kCancelPollInterval + std::chrono::seconds(60);
 
-ExitCode waitForTheEnd(OrderTags& tags, MountedRuns& runs, const RunLookup& isUnderWay, const PendingOrder& before) {
-  CancelWatch watch(tags, isUnderWay, before);
+/// A run that is notified ends at once, and only then is it known that the tag is not needed.
+constexpr std::chrono::seconds kTimeToFollowTheNotification{10};
+
+/// Why nothing could follow a request; empty when something could.
+std::string whyNothingCouldFollow(const PendingOrder& order, const RunLookup& isUnderWay) {
+  if (!order.exists()) return "There is no order to cancel";
+  if (isUnderWay(order.volume)) return "";
+  const std::string name = printable(order.volume);
+  if (!order.isPending()) return "The order for " + name + " is not pending and has no run";
+  // The notification would end whatever else a window is doing, and the tag the order's next run.
+  return order.hasEnded() ? "The run on " + name + " has ended already" : "";
+}
+
+/// False when a signal has ended the wait.
+bool waitForTheEnd(CancelWatch& watch, AsioEventLoop& loop, std::chrono::seconds limit) {
   bool isStopped = false;
-  bool hasEnded = false;
-  const auto look = [&] { hasEnded = watch.hasEnded(std::chrono::steady_clock::now().time_since_epoch()); };
-  const StopSignals signals(runs.loop(), [&isStopped] { isStopped = true; });
-  runs.loop().startTimer(kTagLookInterval, TimerKind::repeating, look);
-  runs.loop().serveUntil([&] { return hasEnded || isStopped; }, kTimeToFollow);
-  if (isStopped && !hasEnded) return give({ExitCode::failed, "No longer waiting; the run has been asked to end"});
-  return give(watch.result());
+  const StopSignals signals(loop, [&isStopped] { isStopped = true; });
+  loop.startTimer(kTagLookInterval, TimerKind::repeating,
+                  [&watch] { watch.look(std::chrono::steady_clock::now().time_since_epoch()); });
+  loop.serveUntil([&] { return watch.hasEnded() || isStopped; }, limit);
+  return watch.hasEnded() || !isStopped;
 }
 
 }  // namespace
 
-Answer cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::function<void()>& notify) {
-  const PendingOrder order = readPendingOrder(tags);
-  if (!order.exists()) return {ExitCode::refused, "There is no order to cancel"};
-  const std::string name = printable(order.volume);
-  if (!isUnderWay(order.volume)) {
-    if (!order.isPending) return {ExitCode::refused, "The order for " + name + " is not pending and has no run"};
-    // The notification would end whatever else a window is doing, and the tag the order's next run.
-    if (order.hasEnded()) return {ExitCode::refused, "The run on " + name + " has ended already"};
-  }
-  tags.store({{kTagCancel, "1"}});
-  if (notify) notify();
-  return {ExitCode::finished, "The run on " + name + " is asked to end; it does so within a minute."};
+AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::function<bool()>& notify) {
+  AskedToEnd asked;
+  asked.answer = changeOrder(tags, [&](const PendingOrder& order) -> OrderChange {
+    if (const std::string why = whyNothingCouldFollow(order, isUnderWay); !why.empty()) {
+      return {{ExitCode::refused, why}, {}};
+    }
+    return {
+        {ExitCode::finished, "The run on " + printable(order.volume) + " is asked to end; it does so within a minute."},
+        {{kTagCancel, "1"}}};
+  });
+  if (asked.answer.exitCode == ExitCode::finished && notify) asked.isNotified = notify();
+  return asked;
 }
 
-bool CancelWatch::hasEnded(std::chrono::steady_clock::duration now) {
+void takeBackRequest(OrderTags& tags, const RunLookup& isUnderWay, const std::string& volume) {
+  changeOrder(tags, [&](const PendingOrder& order) -> OrderChange {
+    if (order.cancel != "1" || order.volume != volume || isUnderWay(volume)) return {};
+    return {{}, {{kTagCancel, "0"}}};
+  });
+}
+
+bool CancelWatch::look(std::chrono::steady_clock::duration now) {
   const bool isUnderWay = isUnderWay_(before_.volume);
   try {
     status_ = tags_.value(kTagStatus);
@@ -81,8 +99,15 @@ ExitCode cancelCommand(const CancelRequest& request) {
   MountedRuns runs;
   const RunLookup isUnderWay = [&runs](const std::string& volume) { return runs.isUnderWay(volume); };
   const PendingOrder before = readPendingOrder(tags);
-  const ExitCode code = give(cancelOrder(tags, isUnderWay, request.notify));
-  return request.wait && code == ExitCode::finished ? waitForTheEnd(tags, runs, isUnderWay, before) : code;
+  const AskedToEnd asked = cancelOrder(tags, isUnderWay, request.notify);
+  const ExitCode code = give(asked.answer);
+  if (code != ExitCode::finished || (!request.wait && !asked.isNotified)) return code;
+  CancelWatch watch(tags, isUnderWay, before);
+  const bool isOver = waitForTheEnd(watch, runs.loop(), request.wait ? kTimeToFollow : kTimeToFollowTheNotification);
+  if (watch.hasEnded()) takeBackRequest(tags, isUnderWay, before.volume);
+  if (!request.wait && !watch.hasEnded()) return code;
+  if (!isOver) return give({ExitCode::failed, "No longer waiting; the run has been asked to end"});
+  return give(watch.result());
 }
 
 }  // namespace calvero

@@ -9,9 +9,18 @@
 
 namespace calvero {
 
+struct AskedToEnd {
+  Answer answer;
+  bool isNotified = false;
+};
+
 /// Asks the run of the order to end, by the tag and by `notify` where there is one. Refused when nothing could follow
 /// that: no order, or one whose run has ended. Throws TagStoreFailure.
-Answer cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::function<void()>& notify);
+AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::function<bool()>& notify);
+
+/// Once the run on that volume has ended: takes back a request that is still in the tag, since the run has followed the
+/// notification or was faster, and the order's next run would be cancelled by it. Throws TagStoreFailure.
+void takeBackRequest(OrderTags& tags, const RunLookup& isUnderWay, const std::string& volume);
 
 /// Follows a run that was asked to end.
 class CancelWatch {
@@ -20,9 +29,10 @@ class CancelWatch {
   CancelWatch(OrderTags& tags, RunLookup isUnderWay, PendingOrder before)
       : tags_(tags), isUnderWay_(std::move(isUnderWay)), before_(std::move(before)) {}
 
-  /// Whether the run has ended, in one look.
-  bool hasEnded(std::chrono::steady_clock::duration now);
+  /// Looks once; returns `hasEnded`.
+  bool look(std::chrono::steady_clock::duration now);
 
+  [[nodiscard]] bool hasEnded() const { return ended_; }
   /// What the looks so far came to.
   [[nodiscard]] Answer result() const;
 

@@ -30,7 +30,7 @@ struct OrderRequest {
 
 struct CancelRequest {
   bool wait = false;
-  std::function<void()> notify;  ///< tells every running Calvero at once; may be empty
+  std::function<bool()> notify;  ///< tells every running Calvero at once, false when that is not possible; may be empty
 };
 
 ExitCode volumesCommand(const ListRequest& request);

@@ -18,15 +18,24 @@ namespace calvero {
 namespace {
 
 /// Why an order that is in the store already stands in the way; empty when none does. What has ended may be replaced,
-/// though it is still pending.
+/// though it is still pending; a run that goes on may not, though its order was called off.
 std::string whyTheEarlierOrderStands(const PendingOrder& earlier, const RunLookup& isUnderWay) {
-  if (!earlier.isPending) return "";
   const std::string name = printable(earlier.volume);
-  if (isUnderWay(earlier.volume)) {
+  if (!earlier.volume.empty() && isUnderWay(earlier.volume)) {
     return "The order for " + name + " is under way; wait until it has ended, or cancel it with calvero-cli cancel";
   }
-  if (earlier.hasEnded()) return "";
+  if (!earlier.isPending() || earlier.hasEnded()) return "";
   return "An order for " + name + " is pending and has not ended; calvero-cli clear removes it";
+}
+
+/// An old status or request must not be taken for one of this run. What makes it an order comes last, for readers that
+/// see one value after the other.
+std::vector<TagValue> tagsOf(const NewOrder& order) {
+  return {{kTagStatus, ""},
+          {kTagCancel, ""},
+          {kTagDrive, order.volume},
+          {kTagAlgo, std::to_string(order.method + 1)},
+          {kTagOnline, "1"}};
 }
 
 class OrderCommand {
@@ -101,26 +110,21 @@ std::string volumeOf(const NewOrder& order) {
 }
 
 PlacedOrder placeOrder(const NewOrder& order, OrderTags& tags, const RunLookup& isUnderWay, const Starter& start) {
-  const std::string obstacle = whyTheEarlierOrderStands(readPendingOrder(tags), isUnderWay);
-  if (!obstacle.empty()) return {{ExitCode::refused, obstacle}, nullptr};
-  // An old status or request must not be taken for one of this run. What makes it an order comes last, for readers
-  // that see one value after the other.
-  tags.store({{kTagStatus, ""},
-              {kTagCancel, ""},
-              {kTagDrive, order.volume},
-              {kTagAlgo, std::to_string(order.method + 1)},
-              {kTagOnline, "1"}});
-  try {
-    auto program = start(order.program);
+  const Answer answer = changeOrder(tags, [&](const PendingOrder& earlier) -> OrderChange {
+    const std::string obstacle = whyTheEarlierOrderStands(earlier, isUnderWay);
+    if (!obstacle.empty()) return {{ExitCode::refused, obstacle}, {}};
     return {{ExitCode::finished, "Ordered: free space of " + volumeOf(order) + ", " + numberAndWord(order.method) +
                                      ". calvero-cli status shows the run, calvero-cli cancel ends it, and "
                                      "calvero-cli clear removes the order afterwards."},
-            std::move(program)};
+            tagsOf(order)};
+  });
+  if (answer.exitCode != ExitCode::finished) return {answer, nullptr};
+  try {
+    return {answer, start(order.program)};
   } catch (const std::system_error& error) {
-    tags.store({{kTagOnline, "0"}});
-    return {{ExitCode::failed,
-             "The program calvero cannot be started: " + printable(error.what()) + "; the order is called off"},
-            nullptr};
+    const Answer failure{ExitCode::failed, "The program calvero cannot be started: " + printable(error.what()) +
+                                               "; the order is called off"};
+    return {changeOrder(tags, [&](const PendingOrder&) { return OrderChange{failure, {{kTagOnline, "0"}}}; }), nullptr};
   }
 }
 

@@ -9,12 +9,30 @@
 
 namespace calvero {
 
+bool PendingOrder::isPending() const {
+  return online == "1";
+}
+
 PendingOrder readPendingOrder(OrderTags& tags) {
-  return {.isPending = tags.value(kTagOnline) == "1",
+  return {.online = tags.value(kTagOnline),
           .volume = tags.value(kTagDrive),
           .method = tags.value(kTagAlgo),
           .status = tags.value(kTagStatus),
           .cancel = tags.value(kTagCancel)};
+}
+
+Answer changeOrder(OrderTags& tags, const std::function<OrderChange(const PendingOrder& order)>& decide) {
+  while (true) {
+    const PendingOrder seen = readPendingOrder(tags);
+    const OrderChange change = decide(seen);
+    if (change.tags.empty() || tags.store(change.tags, {{kTagOnline, seen.online},
+                                                        {kTagDrive, seen.volume},
+                                                        {kTagAlgo, seen.method},
+                                                        {kTagStatus, seen.status},
+                                                        {kTagCancel, seen.cancel}})) {
+      return change.answer;
+    }
+  }
 }
 
 std::int32_t orderedMethod(const PendingOrder& order) {

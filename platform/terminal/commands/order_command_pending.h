@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/terminal/commands/order_tags.h"
 #include "platform/terminal/exit_code.h"
@@ -11,13 +12,14 @@ namespace calvero {
 
 /// What the tag store holds of an order. A text that is absent is empty.
 struct PendingOrder {
-  bool isPending = false;
+  std::string online;  ///< see `isPending`
   std::string volume;
   std::string method;  ///< as it was ordered; see `orderedMethod`
   std::string status;
   std::string cancel;
 
-  [[nodiscard]] bool exists() const { return isPending || !volume.empty(); }
+  [[nodiscard]] bool isPending() const;
+  [[nodiscard]] bool exists() const { return isPending() || !volume.empty(); }
   /// A run has reported its end. Says nothing for an order whose writer left an old status in the store.
   [[nodiscard]] bool hasEnded() const { return !status.empty(); }
 };
@@ -33,6 +35,17 @@ using RunLookup = std::function<bool(const std::string& volume)>;
 
 /// Throws TagStoreFailure.
 PendingOrder readPendingOrder(OrderTags& tags);
+
+/// What a command makes of an order: its answer, and the tags to store for it, if any.
+struct OrderChange {
+  Answer answer;
+  std::vector<TagValue> tags;
+};
+
+/// Has `decide` look at the order and stores the tags that it returns. When another program changes the order between
+/// the two, nothing is stored and it is decided anew: of several commands at the same moment each sees what the one
+/// before has stored. Throws TagStoreFailure.
+Answer changeOrder(OrderTags& tags, const std::function<OrderChange(const PendingOrder& order)>& decide);
 
 /// The method (0 to 8) that a run of the order uses: the default one where none is named.
 std::int32_t orderedMethod(const PendingOrder& order);

@@ -28,13 +28,15 @@ std::string StoredOrderTags::value(const std::string& tag) {
   return reading.value.value_or("");
 }
 
-void StoredOrderTags::store(const std::vector<TagValue>& tags) {
+bool StoredOrderTags::store(const std::vector<TagValue>& tags, const std::vector<TagValue>& expected) {
   const auto end = std::chrono::steady_clock::now() + kPatienceWithOtherWriters;
   StoreOutcome outcome;
   do {
-    outcome = writeTags(path_, tags);  // waits for a lock itself
+    outcome = writeTags(path_, tags, expected);  // waits for a lock itself
   } while (outcome.state == StoreState::busy && std::chrono::steady_clock::now() < end);
+  if (outcome.state == StoreState::changed) return false;
   if (outcome.state != StoreState::fine) throw failure(outcome);
+  return true;
 }
 
 TagStoreFailure StoredOrderTags::failure(const StoreOutcome& outcome) const {

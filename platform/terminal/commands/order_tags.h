@@ -21,8 +21,9 @@ class OrderTags {
 
   /// Empty when the tag is absent. Throws TagStoreFailure.
   virtual std::string value(const std::string& tag) = 0;
-  /// Stores all of `tags` or none. Throws TagStoreFailure.
-  virtual void store(const std::vector<TagValue>& tags) = 0;
+  /// Stores all of `tags` or none. False, with nothing stored, when one of `expected` reads otherwise by now. Throws
+  /// TagStoreFailure.
+  [[nodiscard]] virtual bool store(const std::vector<TagValue>& tags, const std::vector<TagValue>& expected) = 0;
 };
 
 /// The tags in the store's file. Reading makes no file; another program's lock is waited for, for seconds at most.
@@ -31,7 +32,7 @@ class StoredOrderTags : public OrderTags {
   explicit StoredOrderTags(const std::string& path);
 
   std::string value(const std::string& tag) override;
-  void store(const std::vector<TagValue>& tags) override;
+  [[nodiscard]] bool store(const std::vector<TagValue>& tags, const std::vector<TagValue>& expected) override;
 
  private:
   [[nodiscard]] TagStoreFailure failure(const StoreOutcome& outcome) const;

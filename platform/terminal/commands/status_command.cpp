@@ -38,7 +38,7 @@ std::string statusText(const PendingOrder& order, RunState run) {
   std::string text = "Order:  ";
   if (order.exists()) {
     text += "\"" + printable(order.volume) + "\" with " + methodInWords(order) +
-            (order.isPending ? ", pending" : ", not pending") + '\n';
+            (order.isPending() ? ", pending" : ", not pending") + '\n';
   } else {
     text += "none\n";
   }
@@ -48,7 +48,7 @@ std::string statusText(const PendingOrder& order, RunState run) {
 }
 
 std::string statusJson(const PendingOrder& order, RunState run) {
-  nlohmann::ordered_json json{{"pending", order.isPending}};
+  nlohmann::ordered_json json{{"pending", order.isPending()}};
   json["volume"] = order.exists() ? nlohmann::ordered_json(order.volume) : nullptr;
   json["method"] = order.exists() ? nlohmann::ordered_json(orderedMethod(order) + 1) : nullptr;
   json["running"] = run == RunState::underWay;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -9,11 +10,14 @@
 
 namespace calvero::testing {
 
-/// A process of its own that does one thing. It shares no thread with this one: start it before there are any.
+/// A process of its own that does one thing; it ends with the test. It shares no thread with this one: start it before
+/// there are any.
 class ChildProcess {
  public:
   explicit ChildProcess(const std::function<bool()>& body) : id_(::fork()) {
-    if (id_ == 0) ::_exit(succeeds(body) ? 0 : 1);
+    if (id_ != 0) return;
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    ::_exit(succeeds(body) ? 0 : 1);
   }
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
@@ -23,9 +27,11 @@ class ChildProcess {
 
   /// Waits for its end; whether the body succeeded.
   bool succeeded() { return end() == 0; }
-  void kill() {
+  /// Whether it was at work until then.
+  bool kill() {
     ::kill(id_, SIGKILL);
-    end();
+    const int status = end();
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
   }
 
  private:

@@ -27,6 +27,22 @@ TEST_F(APendingTag, IsAnsweredToThisProcessAndKeptUntilTheStoreIsFree) {
   EXPECT_EQ(tagIn(path(), "cvrStatus"), "2");
 }
 
+TEST_F(APendingTag, IsLoggedWhenTheStoreStaysLockedButNotForAMoment) {
+  SqliteTagStore store(path(), log_);  // waits for an attempt that fails
+  {
+    const WriteLock lock(path());
+    store.setValue("cvrStatus", "2");
+  }
+  ASSERT_TRUE(store.waitUntilStored(kLong));
+  EXPECT_THAT(log_.lines(), IsEmpty());
+
+  const WriteLock lock(path());
+  store.setValue("cvrStatus", "3");
+  const auto limit = std::chrono::steady_clock::now() + kLong;
+  while (log_.lines().empty() && std::chrono::steady_clock::now() < limit) store.waitUntilStored(kShort);
+  EXPECT_EQ(log_.linesWith("cannot be written yet: database is locked"), 1);
+}
+
 TEST_F(APendingTag, GivesWayToALaterValueOfTheSameTag) {
   SqliteTagStore store(path(), log_, kShort);
   {

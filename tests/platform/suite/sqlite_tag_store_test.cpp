@@ -184,6 +184,25 @@ TEST_F(TheTagStore, HasNoValueWhereAnotherProgramStoredNoTextWithinTheBounds) {
   EXPECT_THAT(log_.lines(), IsEmpty());
 }
 
+TEST_F(TheTagStore, ReadsTheTextOfANumberWhereAnotherProgramMadeATableWithoutTypes) {
+  setTag(path(), "LANG", "de");
+  runSql(path(),
+         "DROP TABLE tags; CREATE TABLE tags (tag PRIMARY KEY, value);"
+         " INSERT INTO tags VALUES ('whole', 1), ('least', -9223372036854775808), ('broken', 2.5), ('bytes', x'31'),"
+         " ('none', NULL)");
+  SqliteTagStore store(path(), log_);
+  EXPECT_EQ(store.value("whole"), "1");
+  EXPECT_EQ(store.value("least"), "-9223372036854775808");
+  EXPECT_EQ(store.value("broken"), "2.5");
+  EXPECT_EQ(store.value("bytes"), std::nullopt);
+  EXPECT_EQ(store.value("none"), std::nullopt);
+  for (const char* tag : {"whole", "bytes", "none"}) {
+    store.setValue(tag, "3");
+    EXPECT_EQ(store.value(tag), "3") << tag;
+  }
+  EXPECT_THAT(log_.lines(), IsEmpty());
+}
+
 TEST_F(TheTagStore, FollowsAStoreThatIsReplaced) {
   SqliteTagStore store(path(), log_);
   store.setValue("LANG", "de");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -33,14 +35,19 @@ class FakeOrderTags : public OrderTags {
     if (!isReadable_) throw TagStoreFailure("unreadable");
     return store_.value(tag).value_or("");
   }
-  void store(const std::vector<TagValue>& tags) override {
+  /// What another program does just before the next change is stored.
+  void beforeStore(std::function<void()> action) { beforeStore_ = std::move(action); }
+  [[nodiscard]] bool store(const std::vector<TagValue>& tags, const std::vector<TagValue>& expected) override {
     if (!isWritable_) throw TagStoreFailure("unwritable");
+    if (beforeStore_) std::exchange(beforeStore_, {})();
+    if (std::ranges::any_of(expected, [this](const TagValue& one) { return peek(one.tag) != one.value; })) return false;
     std::string entry = "store";
     for (const TagValue& one : tags) {
       entry += ' ' + one.tag + '=' + one.value;
       store_.setValue(one.tag, one.value);
     }
     journal_.add(std::move(entry));
+    return true;
   }
 
  private:
@@ -49,6 +56,7 @@ class FakeOrderTags : public OrderTags {
   FakeTagStore store_;
   bool isReadable_ = true;
   bool isWritable_ = true;
+  std::function<void()> beforeStore_;
 };
 
 /// A program that ends when the test says so.

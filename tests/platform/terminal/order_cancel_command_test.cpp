@@ -18,7 +18,11 @@ using testing::StartsWith;
 class CancelOrder : public testing::Test {
  protected:
   Answer cancel() {
-    return cancelOrder(tags_, runs_.lookup(), [this] { journal_.add("notify"); });
+    const auto notify = [this] {
+      journal_.add("notify");
+      return true;
+    };
+    return cancelOrder(tags_, runs_.lookup(), notify).answer;
   }
   void expectRefused(const std::string& words) {
     const Answer answer = cancel();
@@ -42,8 +46,24 @@ TEST_F(CancelOrder, SetsTheTagBeforeItNotifies) {
 
 TEST_F(CancelOrder, NeedsNoNotification) {
   tags_.putOrder("stick", "3");
-  EXPECT_EQ(cancelOrder(tags_, runs_.lookup(), nullptr).exitCode, ExitCode::finished);
+  const AskedToEnd asked = cancelOrder(tags_, runs_.lookup(), nullptr);
+  EXPECT_EQ(asked.answer.exitCode, ExitCode::finished);
+  EXPECT_FALSE(asked.isNotified);
   EXPECT_EQ(tags_.peek(kTagCancel), "1");
+}
+
+TEST_F(CancelOrder, TellsWhetherTheNotificationWentOut) {
+  tags_.putOrder("stick", "3");
+  for (const bool isSent : {true, false}) {
+    EXPECT_EQ(cancelOrder(tags_, runs_.lookup(), [isSent] { return isSent; }).isNotified, isSent);
+  }
+}
+
+TEST_F(CancelOrder, IsRefusedWhenTheRunEndsBeforeTheRequestIsStored) {
+  tags_.putOrder("stick", "3");
+  tags_.beforeStore([this] { tags_.put(kTagStatus, kStatusFinished); });
+  expectRefused("has ended already");
+  EXPECT_EQ(tags_.peek(kTagCancel), "");
 }
 
 TEST_F(CancelOrder, IsRefusedWithoutAnOrder) {
@@ -77,6 +97,43 @@ TEST_F(CancelOrder, NotifiesNobodyWhenTheStoreCannotBeWritten) {
   EXPECT_THAT(journal_.all(), IsEmpty());
 }
 
+class TakeBackRequest : public testing::Test {
+ protected:
+  TakeBackRequest() {
+    tags_.putOrder("stick", "3");
+    tags_.put(kTagCancel, "1");
+  }
+  std::string requestAfterwards() {
+    takeBackRequest(tags_, runs_.lookup(), "stick");
+    return tags_.peek(kTagCancel);
+  }
+
+  Journal journal_;
+  FakeOrderTags tags_{journal_};
+  FakeRuns runs_;
+};
+
+TEST_F(TakeBackRequest, LeavesNoneForTheNextRunOfTheOrder) {
+  EXPECT_EQ(requestAfterwards(), "0");
+  EXPECT_THAT(journal_.all(), ElementsAre("store CVRCANCEL=0"));
+}
+
+TEST_F(TakeBackRequest, StoresNothingWhenTheRunHasDoneSoItself) {
+  for (const char* value : {"0", "", "2"}) {
+    tags_.put(kTagCancel, value);
+    EXPECT_EQ(requestAfterwards(), value);
+  }
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
+TEST_F(TakeBackRequest, LeavesTheRequestOfARunThatHasBegunSinceOrOfAnotherOrder) {
+  runs_.begin("stick");
+  EXPECT_EQ(requestAfterwards(), "1");
+  runs_.end("stick");
+  tags_.put(kTagDrive, "disk");
+  EXPECT_EQ(requestAfterwards(), "1");
+}
+
 class CancelWatchTest : public testing::Test {
  protected:
   CancelWatchTest() {
@@ -95,11 +152,11 @@ constexpr std::chrono::seconds kBeginning{0};
 
 TEST_F(CancelWatchTest, EndsWithTheStatus) {
   CancelWatch run = watch();
-  EXPECT_FALSE(run.hasEnded(kBeginning));
+  EXPECT_FALSE(run.look(kBeginning));
   EXPECT_THAT(run.result().line, HasSubstr("has not ended yet"));
   EXPECT_EQ(run.result().exitCode, ExitCode::failed);
   tags_.put(kTagStatus, kStatusFailed);
-  EXPECT_TRUE(run.hasEnded(kBeginning));
+  EXPECT_TRUE(run.look(kBeginning));
   EXPECT_EQ(run.result().exitCode, ExitCode::finished);
   EXPECT_THAT(run.result().line, StartsWith("Cancelled: "));
 }
@@ -107,18 +164,18 @@ TEST_F(CancelWatchTest, EndsWithTheStatus) {
 TEST_F(CancelWatchTest, TellsOfARunThatWasFasterThanItsCancel) {
   CancelWatch run = watch();
   tags_.put(kTagStatus, kStatusFinished);
-  EXPECT_TRUE(run.hasEnded(kBeginning));
+  EXPECT_TRUE(run.look(kBeginning));
   EXPECT_EQ(run.result().exitCode, ExitCode::finished);
   EXPECT_THAT(run.result().line, StartsWith("Finished: "));
 }
 
 TEST_F(CancelWatchTest, GivesARunThatHasLeftTheVolumeTimeForItsStatus) {
   CancelWatch run = watch();
-  EXPECT_FALSE(run.hasEnded(kBeginning));
+  EXPECT_FALSE(run.look(kBeginning));
   runs_.end("stick");
-  EXPECT_FALSE(run.hasEnded(std::chrono::seconds(1)));
-  EXPECT_FALSE(run.hasEnded(std::chrono::seconds(15)));
-  EXPECT_TRUE(run.hasEnded(std::chrono::seconds(16)));
+  EXPECT_FALSE(run.look(std::chrono::seconds(1)));
+  EXPECT_FALSE(run.look(std::chrono::seconds(15)));
+  EXPECT_TRUE(run.look(std::chrono::seconds(16)));
   EXPECT_EQ(run.result().exitCode, ExitCode::finished);
   EXPECT_THAT(run.result().line, HasSubstr("has ended"));
 }
@@ -126,17 +183,17 @@ TEST_F(CancelWatchTest, GivesARunThatHasLeftTheVolumeTimeForItsStatus) {
 TEST_F(CancelWatchTest, TakesTheVolumesWordWhereAnOldStatusWasLeft) {
   tags_.put(kTagStatus, kStatusFinished);
   CancelWatch run = watch();
-  EXPECT_FALSE(run.hasEnded(kBeginning));
+  EXPECT_FALSE(run.look(kBeginning));
   runs_.end("stick");
-  EXPECT_TRUE(run.hasEnded(kBeginning));
+  EXPECT_TRUE(run.look(kBeginning));
   EXPECT_THAT(run.result().line, HasSubstr("has ended"));
 }
 
 TEST_F(CancelWatchTest, DoesNotTakeARunThatHasNotBegunForOneThatHasEnded) {
   runs_.end("stick");
   CancelWatch run = watch();
-  EXPECT_FALSE(run.hasEnded(kBeginning));
-  EXPECT_FALSE(run.hasEnded(std::chrono::seconds(100)));
+  EXPECT_FALSE(run.look(kBeginning));
+  EXPECT_FALSE(run.look(std::chrono::seconds(100)));
   EXPECT_EQ(run.result().exitCode, ExitCode::failed);
   EXPECT_THAT(run.result().line, HasSubstr("No run has followed"));
 }
@@ -144,10 +201,10 @@ TEST_F(CancelWatchTest, DoesNotTakeARunThatHasNotBegunForOneThatHasEnded) {
 TEST_F(CancelWatchTest, OutlastsAStoreThatCannotBeReadForAWhile) {
   CancelWatch run = watch();
   tags_.setReadable(false);
-  EXPECT_FALSE(run.hasEnded(kBeginning));
+  EXPECT_FALSE(run.look(kBeginning));
   tags_.setReadable(true);
   tags_.put(kTagStatus, kStatusFailed);
-  EXPECT_TRUE(run.hasEnded(kBeginning));
+  EXPECT_TRUE(run.look(kBeginning));
 }
 
 }  // namespace

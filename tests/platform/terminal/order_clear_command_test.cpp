@@ -40,6 +40,18 @@ TEST_F(ClearOrder, IsRefusedWhileARunIsUnderWay) {
   EXPECT_THAT(journal_.all(), IsEmpty());
 }
 
+TEST_F(ClearOrder, IsRefusedWhenARunBeginsBeforeItIsRemoved) {
+  tags_.putOrder("disk", "3");
+  tags_.put(kTagStatus, kStatusFinished);
+  tags_.beforeStore([this] {
+    tags_.putOrder("stick", "8");
+    runs_.begin("stick");
+  });
+  EXPECT_EQ(clear().exitCode, ExitCode::refused);
+  EXPECT_EQ(tags_.peek(kTagDrive), "stick");
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
 TEST_F(ClearOrder, StoresNothingWhereNothingIs) {
   EXPECT_EQ(clear().exitCode, ExitCode::finished);
   EXPECT_THAT(journal_.all(), IsEmpty());

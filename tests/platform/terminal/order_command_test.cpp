@@ -79,6 +79,26 @@ TEST_F(PlaceOrder, IsRefusedWhileAnEarlierOrderHasNotEnded) {
   EXPECT_THAT(journal_.all(), IsEmpty());
 }
 
+TEST_F(PlaceOrder, IsRefusedWhenAnotherOrderIsStoredFirst) {
+  tags_.beforeStore([this] { tags_.putOrder("disk", "8"); });
+  const PlacedOrder placed = place();
+  EXPECT_EQ(placed.answer.exitCode, ExitCode::refused);
+  EXPECT_THAT(placed.answer.line, AllOf(HasSubstr("disk"), HasSubstr("has not ended")));
+  EXPECT_EQ(placed.program, nullptr);
+  EXPECT_EQ(tags_.peek(kTagDrive), "disk");
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
+TEST_F(PlaceOrder, IsRefusedWhileTheRunOfAnOrderThatWasCalledOffGoesOn) {
+  tags_.putOrder("disk", "8");
+  tags_.put(kTagOnline, "0");
+  runs_.begin("disk");
+  const PlacedOrder placed = place();
+  EXPECT_EQ(placed.answer.exitCode, ExitCode::refused);
+  EXPECT_THAT(placed.answer.line, AllOf(HasSubstr("disk"), HasSubstr("under way")));
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
 TEST_F(PlaceOrder, IgnoresAnEarlierOrderThatIsNotPending) {
   tags_.putOrder("disk", "8");
   tags_.put(kTagOnline, "0");

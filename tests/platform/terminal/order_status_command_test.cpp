@@ -12,7 +12,7 @@ namespace {
 using testing::HasSubstr;
 
 PendingOrder orderOf(const std::string& volume, const std::string& method, const std::string& status = "") {
-  return {.isPending = true, .volume = volume, .method = method, .status = status, .cancel = ""};
+  return {.online = "1", .volume = volume, .method = method, .status = status, .cancel = ""};
 }
 
 nlohmann::json jsonOf(const PendingOrder& order, RunState run = RunState::none) {
@@ -24,10 +24,10 @@ TEST(ReadPendingOrder, TakesOnlyOneForPending) {
   testing::FakeOrderTags tags(journal);
   EXPECT_FALSE(readPendingOrder(tags).exists());
   tags.putOrder("stick", "3");
-  EXPECT_TRUE(readPendingOrder(tags).isPending);
+  EXPECT_TRUE(readPendingOrder(tags).isPending());
   for (const char* other : {"", "0", "01", "1 ", "true"}) {
     tags.put(kTagOnline, other);
-    EXPECT_FALSE(readPendingOrder(tags).isPending) << other;
+    EXPECT_FALSE(readPendingOrder(tags).isPending()) << other;
     EXPECT_TRUE(readPendingOrder(tags).exists()) << other;
   }
 }
@@ -63,7 +63,7 @@ TEST(StatusText, ShowsHostileTextsAsEscapes) {
 
 TEST(StatusText, KeepsAnOrderThatIsNotPendingApart) {
   PendingOrder order = orderOf("stick", "3", "2");
-  order.isPending = false;
+  order.online = "0";
   EXPECT_THAT(statusText(order, RunState::none), HasSubstr("(dod), not pending\n"));
 }
 
