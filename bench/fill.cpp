@@ -16,6 +16,7 @@
 #include "ports/files.h"
 #include "wipe/block_plan.h"
 #include "wipe/filler_names.h"
+#include "wipe/filler_size.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include "bench/quiet_ports.h"
 #include "platform/linux/posix_files.h"
 #include "ports/files.h"
-#include "wipe/filler_names.h"
+#include "wipe/filler_size.h"
 
 namespace {
 

@@ -4,10 +4,15 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "ports/error.h"
 
 namespace calvero {
+
+/// What the name of a filler file begins with; a decimal number follows. By these names a directory that an
+/// interrupted run left is told from somebody's own that was given its name.
+constexpr std::string_view kFillerFilePrefix = ".temp";
 
 /// Result of one positioned write.
 struct WriteResult {
@@ -24,7 +29,8 @@ class FillerFile {
   virtual ~FillerFile() = default;
 
   /// Writes `bytes` bytes of `data` at `offset` (bytes from the start of the file). Blocks. Interrupted calls are
-  /// retried; a short write is returned as it is; -1 on failure, a null `data` included.
+  /// retried; a short write is returned as it is; -1 on failure, a null `data` included. Fails (`gone`) at the latest
+  /// one second after the volume was taken away from its path, even where the system would still write.
   virtual WriteResult pwrite(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset) = 0;
 
   /// Flushes the file to the medium and waits for it. A failure is reported once and never retried: the kernel has
@@ -50,7 +56,8 @@ class FillerDirectory {
   /// opened or followed; a folder of that name is left and reported (`exists`).
   virtual Error createEmptyFile(const std::string& path) = 0;
 
-  /// Whether a directory entry of that name exists. Links are not followed.
+  /// Whether a directory entry of that name exists: none does once the volume was taken away from its path. Links are
+  /// not followed.
   virtual bool exists(const std::string& path) = 0;
 
   /// Reads the entry's attributes, as is done before each file is written; nothing looks at them. Links are not
@@ -63,7 +70,8 @@ class FillerDirectory {
 
   /// Removes the file's name, and keeps its space taken until `releaseSpace`: a file system hands the blocks of a
   /// deleted file to the next one, which would then overwrite the same blocks again and leave the others as they
-  /// were. Where the space cannot be kept the name is removed all the same and `bytesNotKept` grows.
+  /// were. Where the limit of open files forbids that, the name is removed all the same and `bytesNotKept` grows; where
+  /// the file cannot be opened for another reason it stays as it is, and keeps its space so.
   virtual Error removeItem(const std::string& path) = 0;
 
   /// Bytes of removed files whose space could not be kept (limit of open files), so far.
@@ -93,8 +101,9 @@ class Files {
   virtual Error checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) = 0;
 
   /// Makes the filler directory, or takes over the one an interrupted run left, and locks it. It is taken over only if
-  /// it is a real directory on the volume itself and owned by the running user; what the interrupted run left in it is
-  /// removed. Null with `error` filled otherwise, and then nothing in it was opened, written or removed.
+  /// it is a real directory on the volume itself, owned by the running user, and holds nothing but filler files and
+  /// empty folders; what the interrupted run left in it is removed. Null with `error` filled otherwise, and then
+  /// nothing in it was opened, written or removed.
   virtual std::unique_ptr<FillerDirectory> createFillerDirectory(const std::string& volumePath,
                                                                  const std::string& directoryPath, Error& error) = 0;
 

@@ -71,7 +71,11 @@ Error AppDelegate::checkSelectedVolume() {
   const std::string name = nameSelectedVolume();
   const auto path = getVolumePath(name);
   if (!path) return {ErrorCode::notFound, "look up", name, "it is not mounted any more"};
-  return ports_.files.checkFillerDirectory(*path, fillerDirectoryPath(*path));
+  Error error = ports_.files.checkFillerDirectory(*path, fillerDirectoryPath(*path));
+  // A volume without a size did not answer when it was listed: a run would take its free space for nothing.
+  const bool wasListedInFull = selection().capacityBytes() > 0;
+  if (!error.failed() && !wasListedInFull) error = {ErrorCode::gone, "statvfs", *path, "its size is not known"};
+  return error;
 }
 
 void AppDelegate::tableViewSelectionDidChange() {

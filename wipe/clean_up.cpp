@@ -59,7 +59,7 @@ void AppDelegate::removeFillerDirectory(WipeRun& run, const std::string& volumeP
   Error error;
   if (const auto directory = run.directory()) {
     directory->releaseSpace();
-    if (const std::uint64_t bytes = directory->bytesNotKept(); bytes != 0) {
+    if (const std::uint64_t bytes = directory->bytesNotKept(); bytes != 0 && run.notKeptTold.exchange(1) == 0) {
       ports_.log.notice(
           getFormattedStringForSize(bytes) +
           " could not be held until the end of the run (limit of open files): as much of what was deleted "

@@ -5,6 +5,7 @@
 #include "ports/files.h"
 #include "ports/system_log.h"
 #include "wipe/filler_names.h"
+#include "wipe/filler_size.h"
 #include "wipe/lost_volume.h"
 
 namespace calvero {
@@ -32,7 +33,9 @@ void AppDelegate::createFile(WipeRun& run) {
       return;
     }
     const std::string& path = run.filePathsArray.emplace_back(fillerFilePath(*volumePath, i));
-    if (directory) directory->createEmptyFile(path);
+    const Error error = directory ? directory->createEmptyFile(path) : Error{};
+    // The file is found missing at its turn; this is the reason why.
+    if (error.failed() && !run.stopRequested()) run.noteFault(error);
     ++run.counters.filesCreated;
   }
 }

@@ -49,14 +49,15 @@ class BlockWriter {
   }
 
  private:
-  /// Bytes written, or -1.
+  /// Bytes written, or -1; none where the flush failed, since the system may have dropped them.
   std::int64_t writePass(std::int32_t pass, std::uint64_t offset, std::int32_t bytes) {
     current_ = app_.fillBuffer(current_, kBlockBytes, method_, pass);
     const WriteResult result = file_.pwrite(current_, static_cast<std::size_t>(bytes), offset);
     noteIfFault(run_, result.error, "pwrite", path_);
-    noteIfFault(run_, file_.fsync(), "fsync", path_);
+    const ErrorCode flushed = file_.fsync();
+    noteIfFault(run_, flushed, "fsync", path_);
     if (result.bytes > 0) run_.counters.bytesWritten += static_cast<std::uint64_t>(result.bytes);
-    return result.bytes;
+    return flushed == ErrorCode::none ? result.bytes : std::min<std::int64_t>(result.bytes, 0);
   }
 
   void noteCovered(std::int64_t bytes) {
@@ -84,7 +85,8 @@ void AppDelegate::fillFilePath(WipeRun& run, const std::string& path, std::uint6
   Error error;
   const auto file = directory->openForWriting(path, error);
   if (!file) {
-    noteIfFault(run, error.code, error.operation.c_str(), path);
+    // Opening takes no space: no full volume refuses it, and nothing of this file will be covered.
+    if (!run.stopRequested()) run.noteFault(error);
     return;
   }
 

@@ -5,7 +5,7 @@
 #include "app/app_delegate.h"
 #include "ports/clock.h"
 #include "ports/controls.h"
-#include "wipe/filler_names.h"
+#include "wipe/filler_size.h"
 
 namespace calvero {
 namespace {
@@ -46,7 +46,8 @@ std::string AppDelegate::getElapsedData(std::uint64_t finishedFiles) {
 
 void AppDelegate::setElapsedTime(WipeRun& run) {
   const Clock::Duration start = ports_.clock.now();
-  while (run.abortErasing == 0 && run.terminateThread == 0) {
+  // The flags stay down where the worker ends the application itself.
+  while (run.abortErasing == 0 && run.terminateThread == 0 && run.applicationEnding == 0) {
     run.elapsed_time = getElapsedTimeForInterval((ports_.clock.now() - start).count());
     const bool visible = run.screen.mainWindowVisible();
     run.screen.apply([visible, text = run.elapsed_time](Controls& controls) {

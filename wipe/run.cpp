@@ -10,7 +10,7 @@
 #include "ports/files.h"
 #include "ports/system_log.h"
 #include "ports/threads.h"
-#include "wipe/filler_names.h"
+#include "wipe/filler_size.h"
 #include "wipe/progress_percent.h"
 
 namespace calvero {
@@ -37,6 +37,7 @@ void AppDelegate::proceed() {
         {localised("Please!! \n Close all the files related to drive , as well as do not add any data to "
                    "drive during process."),
          "", "", ""});
+    if (order_.cloudTerm != 0) return;  // the suite has ended the application while it asked
     controls.selectPage(Page::progress);
   }
   controls.hide(Control::buttonBack);
@@ -144,6 +145,7 @@ void AppDelegate::wipeFreeSpace(WipeRun& run) {
     const std::string& path = run.filePathsArray[i];
     const auto directory = run.directory();
     if (!directory || !directory->exists(path)) {
+      if (run.stopRequested()) break;  // it was there at the last look, and a cancel has removed it since
       run.volumeEjected = 1;
       reportUnknownError(run);
       return;

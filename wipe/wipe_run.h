@@ -57,6 +57,7 @@ struct WipeRun {
   RunCounters counters;
   std::atomic<RunOutcome> outcome{RunOutcome::none};
   std::atomic<std::uint8_t> workerEnded{0};
+  std::atomic<std::uint8_t> notKeptTold{0};  ///< a cancel cleans up beside the worker, and one of them tells
   /// The application has been asked to end: no further step of this run is taken.
   std::atomic<std::uint8_t> applicationEnding{0};
 
@@ -76,8 +77,9 @@ struct WipeRun {
   void noteRefusal(const Error& refusal);
   [[nodiscard]] Error refusal() const;
 
-  /// Remembers the first write, flush or removal that failed for another reason than a full volume. A run with a fault
-  /// may have left data readable, whatever its outcome. Any thread.
+  /// Remembers the first filler file that could not be created or opened, and the first write, flush or removal that
+  /// failed for another reason than a full volume. A run with a fault may have left data readable, whatever its
+  /// outcome. Any thread.
   void noteFault(const Error& fault);
   [[nodiscard]] Error firstFault() const;
   [[nodiscard]] std::uint64_t faults() const;

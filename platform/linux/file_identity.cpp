@@ -37,4 +37,9 @@ std::optional<FileIdentity> identityAt(int folder, const char* name) {
   return readIdentity(folder, name, AT_SYMLINK_NOFOLLOW);
 }
 
+std::optional<FileIdentity> identityBehind(const std::string& path) {
+  constexpr int kNoFlags = 0;
+  return readIdentity(AT_FDCWD, path.c_str(), kNoFlags);
+}
+
 }  // namespace calvero

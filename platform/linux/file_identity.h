@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace calvero {
 
@@ -36,5 +37,8 @@ std::optional<FileIdentity> identityOf(int descriptor);
 
 /// The identity of what is under `name` in the folder `folder`, a symbolic link itself and not its target.
 std::optional<FileIdentity> identityAt(int folder, const char* name);
+
+/// The identity of what a path leads to, symbolic links followed.
+std::optional<FileIdentity> identityBehind(const std::string& path);
 
 }  // namespace calvero

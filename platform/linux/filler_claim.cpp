@@ -54,7 +54,7 @@ OpenFolder claimDirectory(const FillerPlace& place, IfAbsent ifAbsent, Error& er
     error = checkLeftContents(directory, place.path());
     return error.failed() ? OpenFolder{} : std::move(directory);
   }
-  error = {ErrorCode::busy, "flock", place.path(), "it keeps being replaced"};
+  error = {ErrorCode::other, "flock", place.path(), "it keeps being replaced"};
   return {};
 }
 

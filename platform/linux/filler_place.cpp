@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <linux/magic.h>
+#include <sys/statvfs.h>
 #include <sys/vfs.h>
 #include <unistd.h>
 
@@ -42,16 +43,26 @@ std::optional<FillerPlace> FillerPlace::open(const std::string& volumePath, cons
     return {};
   }
   root.identity = *identity;
-  return FillerPlace(std::move(root), directoryPath);
+  return FillerPlace(std::move(root), volumePath, directoryPath);
 }
 
-FillerPlace::FillerPlace(OpenFolder root, std::string path)
+FillerPlace::FillerPlace(OpenFolder root, std::string volumePath, std::string path)
     : root_(std::move(root)),
+      volumePath_(std::move(volumePath)),
       path_(std::move(path)),
       name_(path_.substr(path_.rfind('/') + 1)),
       showsNoOwners_(fileSystemShowsNoOwners(root_.get())) {}
 
+bool FillerPlace::isFree() const {
+  return !identityAt(root_.get(), name_.c_str()) && errno == ENOENT;
+}
+
 Error FillerPlace::checkWritable() const {
+  // First, since no right helps against it: a file system that is mounted read-only only here shows that last.
+  struct statvfs properties = {};
+  if (::fstatvfs(root_.get(), &properties) == 0 && (properties.f_flag & ST_RDONLY) != 0) {
+    return posixError("fstatvfs", path_, EROFS);
+  }
   if (::faccessat(root_.get(), ".", W_OK | X_OK, AT_EACCESS) == 0) return {};
   return posixError("faccessat", path_, errno);
 }

@@ -16,9 +16,14 @@ class FillerPlace {
   static std::optional<FillerPlace> open(const std::string& volumePath, const std::string& directoryPath, Error& error);
 
   [[nodiscard]] const std::string& path() const { return path_; }
+  [[nodiscard]] const std::string& volumePath() const { return volumePath_; }
+  /// The volume's device number.
+  [[nodiscard]] dev_t device() const { return root_.identity.device; }
   /// Where files have no owners of their own and show the mount's owner instead, as on FAT.
   [[nodiscard]] bool showsNoOwners() const { return showsNoOwners_; }
 
+  /// Whether there is nothing under the name.
+  [[nodiscard]] bool isFree() const;
   /// Whether a directory could be made under the name. Makes nothing.
   [[nodiscard]] Error checkWritable() const;
   /// Makes the directory, mode 0700; `exists` when the name is taken.
@@ -32,10 +37,11 @@ class FillerPlace {
   [[nodiscard]] Error removeDirectory(const OpenFolder& directory) const;
 
  private:
-  FillerPlace(OpenFolder root, std::string path);
+  FillerPlace(OpenFolder root, std::string volumePath, std::string path);
   [[nodiscard]] const char* whyNotOurs(const FileIdentity& found) const;
 
   OpenFolder root_;
+  std::string volumePath_;
   std::string path_;
   std::string name_;
   bool showsNoOwners_;

@@ -3,7 +3,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <string_view>
+
 #include "platform/linux/posix_error.h"
+#include "ports/files.h"
 
 namespace calvero {
 
@@ -73,6 +77,17 @@ bool isFolderEntry(const OpenFolder& folder, const dirent& entry) {
   return identity && identity->isFolder();
 }
 
+/// What is open while it is removed stays under such a name where the file system needs one.
+bool isNameOfRemovedFile(std::string_view name) {
+  return name.starts_with(".fuse_hidden") || name.starts_with(".nfs");
+}
+
+bool mayBeLeftByARun(std::string_view name) {
+  if (!name.starts_with(kFillerFilePrefix)) return isNameOfRemovedFile(name);
+  const std::string_view number = name.substr(kFillerFilePrefix.size());
+  return !number.empty() && std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
 Error checkLeftFolder(const OpenFolder& parent, const char* name, const std::string& path) {
   Error error;
   const OpenFolder folder = openSubfolder(parent, name, path, error);
@@ -91,9 +106,12 @@ Error emptyFolder(const OpenFolder& folder, const std::string& path, std::atomic
 Error checkLeftContents(const OpenFolder& folder, const std::string& path) {
   FolderReader reader(folder.get());
   while (const dirent* entry = reader.next()) {
-    if (!isFolderEntry(folder, *entry)) continue;
-    Error error = checkLeftFolder(folder, entry->d_name, path);
-    if (error.failed()) return error;
+    if (isFolderEntry(folder, *entry)) {
+      Error error = checkLeftFolder(folder, entry->d_name, path);
+      if (error.failed()) return error;
+    } else if (!mayBeLeftByARun(entry->d_name)) {
+      return {ErrorCode::notOurs, "readdir", path, "it holds other files"};
+    }
   }
   return reader.errnoValue() == 0 ? Error{} : posixError("readdir", path, reader.errnoValue());
 }

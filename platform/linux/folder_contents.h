@@ -14,7 +14,9 @@ namespace calvero {
 /// the last pass is returned. `path` is for reports only; `steps` counts what was removed.
 Error emptyFolder(const OpenFolder& folder, const std::string& path, std::atomic<std::uint64_t>& steps);
 
-/// Fails with `notOurs` when the folder holds a folder that is not empty: no run makes one. Changes nothing.
+/// Fails with `notOurs` when the folder holds what no run makes: a folder that is not empty, or a file that is not
+/// named as filler files are. Whoever may rename in the volume's root could else have a folder of ours emptied into
+/// which he himself may not write. Changes nothing.
 Error checkLeftContents(const OpenFolder& folder, const std::string& path);
 
 /// Space taken by those plain files in the folder that have no name elsewhere.

@@ -38,11 +38,11 @@ bool answersForItsLabel(const Mount& mount) {
   return !isNetworkFileSystem(mount) && !isFuse(mount) && !isAutomount(mount);
 }
 
-std::string firstShown(std::initializer_list<std::string_view> labels) {
-  for (const std::string_view label : labels) {
-    if (std::string shown = printableLabel(label); !shown.empty()) return shown;
+std::string nameOf(const std::string& label, const std::string& mountPath) {
+  for (const std::string& name : {nameFromLabel(label), printableLabel(lastPartOf(mountPath))}) {
+    if (!name.empty()) return name;
   }
-  return {};
+  return printableLabel(mountPath);
 }
 
 }  // namespace
@@ -132,7 +132,7 @@ std::string LinuxVolumes::describe(const Mount& mount, MountedVolume& volume) {
   volume.formatDescription = formatDescription(mount, content);
   volume.local = !isNetworkFileSystem(mount);
   volume.removable = device != 0 && isOnRemovableDisk(device, paths_.sysfs);
-  return firstShown({label.value_or(content.label), lastPartOf(mount.path), mount.path});
+  return nameOf(label.value_or(content.label), mount.path);
 }
 
 LinuxVolumes::Figures LinuxVolumes::figuresOf(const Mount& mount, const ReclaimableBytes& reclaimableBytes) {

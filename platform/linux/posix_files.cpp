@@ -42,6 +42,8 @@ Error makePrivate(const FillerPlace& place, const OpenFolder& directory) {
 
 Error prepare(const FillerPlace& place, const OpenFolder& directory) {
   Error error = makePrivate(place, directory);
+  // Again, for until now somebody may have moved something in.
+  if (!error.failed()) error = checkLeftContents(directory, place.path());
   if (error.failed()) return error;
   std::atomic<std::uint64_t> steps{0};  // nobody waits for these
   error = emptyFolder(directory, place.path(), steps);
@@ -60,7 +62,11 @@ Error whyNoFillerDirectory(const std::string& volumePath, const std::string& dir
     if (::fstatvfs(directory.get(), &properties) != 0) return posixError("fstatvfs", directoryPath, errno);
     return (properties.f_flag & ST_RDONLY) != 0 ? posixError("fstatvfs", directoryPath, EROFS) : Error{};
   }
-  return error.code == ErrorCode::notFound ? place->checkWritable() : error;
+  const Error writable = place->checkWritable();
+  if (error.code == ErrorCode::notFound) return writable;
+  // Whoever may not write there can neither clear away what is in the way nor have a run of his own there.
+  const bool isOutOfReach = error.code == ErrorCode::notOurs && writable.code == ErrorCode::notPermitted;
+  return isOutOfReach ? writable : error;
 }
 
 }  // namespace
@@ -81,11 +87,13 @@ std::unique_ptr<FillerDirectory> PosixFiles::createFillerDirectory(const std::st
                                                                    const std::string& directoryPath, Error& error) {
   auto place = FillerPlace::open(volumePath, directoryPath, error);
   if (!place) return nullptr;
+  const bool isNew = place->isFree();
   OpenFolder directory = claimDirectory(*place, IfAbsent::make, error);
-  if (!directory.isOpen()) return nullptr;
-  error = prepare(*place, directory);
-  if (error.failed()) return nullptr;
-  return std::make_unique<PosixFillerDirectory>(std::move(*place), std::move(directory));
+  if (directory.isOpen()) error = prepare(*place, directory);
+  if (!error.failed()) return std::make_unique<PosixFillerDirectory>(std::move(*place), std::move(directory));
+  directory = OpenFolder{};  // gives up the lock
+  if (isNew) removeFillerDirectory(volumePath, directoryPath);
+  return nullptr;
 }
 
 Error PosixFiles::removeFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {

@@ -15,7 +15,8 @@ namespace {
 /// Each attempt ends at the latest when somebody has taken the freed name again.
 constexpr int kCreateAttempts = 8;
 
-/// A worker that is in the middle of one call when the directory is removed may still add one entry.
+/// A worker that is in the middle of one call when the directory is removed may still add one entry, and a file system
+/// that needs room to remove something may need a moment to find what has just been given back.
 constexpr int kRemoveAttempts = 16;
 
 const char* lastPart(const std::string& path) {
@@ -42,9 +43,12 @@ const char* whyNoFillerFile(const FileIdentity& found, const FileIdentity& direc
 }  // namespace
 
 PosixFillerDirectory::PosixFillerDirectory(FillerPlace place, OpenFolder directory)
-    : place_(std::move(place)), directory_(std::move(directory)) {}
+    : place_(std::move(place)),
+      watch_(std::make_shared<VolumeWatch>(place_.volumePath(), place_.device())),
+      directory_(std::move(directory)) {}
 
 Error PosixFillerDirectory::createEmptyFile(const std::string& path) {
+  if (!watch_->wasThereLately()) return {ErrorCode::gone, "openat", path, "the volume was taken away"};
   const char* name = lastPart(path);
   int failure = EEXIST;
   for (int attempt = 0; attempt < kCreateAttempts; ++attempt) {
@@ -66,7 +70,7 @@ Error PosixFillerDirectory::createEmptyFile(const std::string& path) {
 }
 
 bool PosixFillerDirectory::exists(const std::string& path) {
-  return identityAt(directory_.get(), lastPart(path)).has_value();
+  return watch_->isThere() && identityAt(directory_.get(), lastPart(path)).has_value();
 }
 
 Error PosixFillerDirectory::readAttributes(const std::string& path) {
@@ -84,7 +88,7 @@ std::unique_ptr<FillerFile> PosixFillerDirectory::openForWriting(const std::stri
     found = descriptor.isOpen() ? identityOf(descriptor.get()) : std::nullopt;
     reason = found ? whyNoFillerFile(*found, directory_.identity) : nullptr;
   }
-  if (found && reason == nullptr) return std::make_unique<PosixFillerFile>(std::move(descriptor));
+  if (found && reason == nullptr) return std::make_unique<PosixFillerFile>(std::move(descriptor), watch_);
   error = found ? Error{ErrorCode::notOurs, "openat", path, reason} : posixError("openat", path, errno);
   return nullptr;
 }
@@ -96,11 +100,15 @@ Error PosixFillerDirectory::removeItem(const std::string& path) {
 
   // A second descriptor, for reading, and not the one that wrote: closing the latter makes XFS give back what it
   // reserved behind the end of the file, while any open descriptor keeps the file's own blocks. O_PATH would not do:
-  // a FUSE file system keeps a file without a name only for those who really opened it.
+  // a FUSE file system keeps a file without a name only for those who really opened it. A file that cannot be opened
+  // holds its space by its name, until the directory is removed.
   const bool takesSpace = found->isPlainFile() && (found->allocatedBytes != 0 || found->sizeBytes != 0);
   Descriptor file;
-  if (takesSpace && !closed_) file = Descriptor(openIn(directory_, name, O_RDONLY | O_NONBLOCK));
-  if (file.isOpen() && isSpareDescriptor(file.get())) file = Descriptor();
+  if (takesSpace && !closed_) {
+    file = Descriptor(openIn(directory_, name, O_RDONLY | O_NONBLOCK));
+    if (!file.isOpen() && errorCodeOf(errno) != ErrorCode::noHandles) return posixError("openat", path, errno);
+    if (file.isOpen() && isSpareDescriptor(file.get())) file = Descriptor();
+  }
 
   if (unlinkIn(directory_, name) != 0) return posixError("unlinkat", path, errno);
   if (file.isOpen()) {
@@ -114,18 +122,17 @@ Error PosixFillerDirectory::removeItem(const std::string& path) {
 Error PosixFillerDirectory::remove() {
   closed_ = true;
   held_.releaseForGood(cleanUpSteps_);
+  const std::lock_guard lock(removalMutex_);
   Error error;
   for (int attempt = 0; attempt < kRemoveAttempts; ++attempt) {
     error = emptyFolder(directory_, place_.path(), cleanUpSteps_);
-    if (error.failed()) return error;
-    error = removeName();
-    if (error.code != ErrorCode::exists) return error;
+    if (!error.failed()) error = removeName();
+    if (error.code != ErrorCode::exists && error.code != ErrorCode::full) return error;
   }
   return error;
 }
 
 Error PosixFillerDirectory::removeName() {
-  const std::lock_guard lock(nameMutex_);
   if (nameRemoved_) return posixError("unlinkat", place_.path(), ENOENT);
   Error error = place_.removeDirectory(directory_);
   nameRemoved_ = !error.failed();

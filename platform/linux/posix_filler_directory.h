@@ -1,11 +1,13 @@
 #pragma once
 
 #include <atomic>
+#include <memory>
 #include <mutex>
 
 #include "platform/linux/filler_place.h"
 #include "platform/linux/held_files.h"
 #include "platform/linux/open_folder.h"
+#include "platform/linux/volume_watch.h"
 #include "ports/files.h"
 
 namespace calvero {
@@ -26,14 +28,17 @@ class PosixFillerDirectory : public FillerDirectory {
   Error remove() override;
 
  private:
-  Error removeName();
+  Error removeName();  // under removalMutex_
 
   FillerPlace place_;
-  OpenFolder directory_;  // closing it drops the lock
+  const std::shared_ptr<VolumeWatch> watch_;  // shared with the open files
+  OpenFolder directory_;                      // closing it drops the lock
   std::atomic<bool> closed_{false};
   std::atomic<std::uint64_t> bytesNotKept_{0};
   std::atomic<std::uint64_t> cleanUpSteps_{0};
-  std::mutex nameMutex_;  // guards nameRemoved_, and that nobody removes the name of the next run's directory
+  // Guards nameRemoved_, and that nobody removes the name of the next run's directory. A cancel and the worker remove one
+  // after the other: each name removed under the other's reading costs both a vain call.
+  std::mutex removalMutex_;
   bool nameRemoved_ = false;
   HeldFiles held_;
 };

@@ -22,10 +22,11 @@ bool isOnBtrfs(int descriptor) {
 
 }  // namespace
 
-PosixFillerFile::PosixFillerFile(Descriptor descriptor)
-    : descriptor_(std::move(descriptor)), pinsMetadata_(isOnBtrfs(descriptor_.get())) {}
+PosixFillerFile::PosixFillerFile(Descriptor descriptor, std::shared_ptr<VolumeWatch> watch)
+    : descriptor_(std::move(descriptor)), watch_(std::move(watch)), pinsMetadata_(isOnBtrfs(descriptor_.get())) {}
 
 WriteResult PosixFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset) {
+  if (!watch_->wasThereLately()) return {-1, ErrorCode::gone};
   const ssize_t written =
       retryInterrupted([&] { return ::pwrite(descriptor_.get(), data, bytes, static_cast<off_t>(offset)); });
   if (written < 0) return {-1, errorCodeOf(errno)};

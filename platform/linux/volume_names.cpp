@@ -74,6 +74,11 @@ std::string printableLabel(std::string_view raw) {
   return shown.substr(first, shown.find_last_not_of(' ') - first + 1);
 }
 
+std::string nameFromLabel(std::string_view raw) {
+  std::string name = printableLabel(raw);
+  return name.starts_with('/') ? name.replace(0, 1, kReplacement) : name;
+}
+
 std::string lastPartOf(const std::string& path) {
   return path == "/" ? path : path.substr(path.rfind('/') + 1);
 }

@@ -10,6 +10,10 @@ namespace calvero {
 /// characters that break lines or change the direction of writing each become U+FFFD. Empty when nothing is left.
 std::string printableLabel(std::string_view raw);
 
+/// A label as a volume's name: printable, and with U+FFFD for a slash at its start. A stick labelled "/home" would else
+/// be erased in place of what is mounted there by whoever names that path.
+std::string nameFromLabel(std::string_view raw);
+
 /// The last part of an absolute path; "/" for the root.
 std::string lastPartOf(const std::string& path);
 

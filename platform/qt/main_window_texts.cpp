@@ -54,8 +54,8 @@ void MainWindow::describeVolumes(const Localisation& localisation) {
     const auto size = [this](std::uint64_t bytes) { return formatSize_ ? toText(formatSize_(bytes)) : QString(); };
     const QString& local = volume.removable ? driveTexts_.removable : driveTexts_.fixed;
     return std::vector<VolumeDetail>{{QString(), volume.local ? local : driveTexts_.network},
-                                     {driveTexts_.fileSystem, toText(volume.formatDescription)},
-                                     {driveTexts_.mountPath, toText(volume.mountPath)},
+                                     {driveTexts_.fileSystem, harmless(toText(volume.formatDescription))},
+                                     {driveTexts_.mountPath, harmless(toText(volume.mountPath))},
                                      {driveTexts_.driveSpace, size(volume.totalBytes)},
                                      {driveTexts_.freeSpace, size(volume.availableBytes)}};
   });

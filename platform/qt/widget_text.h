@@ -7,6 +7,10 @@ namespace calvero {
 
 QString toText(const std::string& text);
 
+/// A foreign text as one line that disturbs nothing about it: control characters, and characters that break the line or
+/// change the direction of writing, become U+FFFD.
+QString harmless(QString text);
+
 /// A button's title that shows every '&' instead of taking it for a mnemonic.
 QString asTitle(const std::string& text);
 

@@ -77,6 +77,19 @@ std::string printable(std::string_view text) {
   return shown;
 }
 
+std::string withJsonEscapes(std::string_view json) {
+  std::string escaped;
+  while (!json.empty()) {
+    const Character next = firstCharacter(json);
+    const bool isKept = !next.codePoint || isHarmless(*next.codePoint) || *next.codePoint == '\n';
+    std::array<char, 8> escape{};
+    if (!isKept) std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(*next.codePoint));
+    escaped += isKept ? json.substr(0, next.bytes) : std::string_view(escape.data());
+    json.remove_prefix(next.bytes);
+  }
+  return escaped;
+}
+
 std::size_t columnsOf(std::string_view text) {
   std::size_t columns = 0;
   while (!text.empty()) {

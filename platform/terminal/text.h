@@ -10,6 +10,9 @@ namespace calvero {
 /// and bytes that are not UTF-8 become octal escapes such as "\033".
 std::string printable(std::string_view text);
 
+/// The text of a JSON value with what `printable` escapes, but for its line breaks, as JSON's own escapes.
+std::string withJsonEscapes(std::string_view json);
+
 /// Columns that printable text takes on a terminal. Wide characters count as two once LC_CTYPE is a UTF-8 locale.
 std::size_t columnsOf(std::string_view text);
 

@@ -34,6 +34,9 @@ class FilesWorld {
   /// `path` becomes a second name of the file `existing` in the same directory.
   virtual void plantSecondName(const std::string& existing, const std::string& path) = 0;
 
+  /// Nothing is found under the volume's path any more, though what was open before stays so.
+  virtual void takeVolumeAway() = 0;
+
   virtual bool directoryExists(const std::string& path) = 0;
   /// Size of a regular file; nothing when there is none of that name.
   virtual std::optional<std::uint64_t> bytesOf(const std::string& path) = 0;
@@ -247,6 +250,21 @@ TEST_P(FilesContract, WritingNoBufferFails) {
   const WriteResult result = file->pwrite(nullptr, kData.size(), 0);
   EXPECT_EQ(result.bytes, -1);
   EXPECT_NE(result.error, ErrorCode::none);
+}
+
+TEST_P(FilesContract, AVolumeThatWasTakenAwayHasNoFilesAndTakesNoWrites) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr);
+  ASSERT_FALSE(directory->createEmptyFile(pathOf(".temp0")).failed());
+  Error error;
+  const auto file = directory->openForWriting(pathOf(".temp0"), error);
+  ASSERT_NE(file, nullptr) << error.text();
+  world_->takeVolumeAway();
+  EXPECT_FALSE(directory->exists(pathOf(".temp0")));
+  EXPECT_EQ(directory->createEmptyFile(pathOf(".temp1")).code, ErrorCode::gone);
+  const WriteResult result = file->pwrite(kData.data(), kData.size(), 0);
+  EXPECT_EQ(result.bytes, -1);
+  EXPECT_EQ(result.error, ErrorCode::gone);
 }
 
 TEST_P(FilesContract, RemovesAFilesNameOnce) {

@@ -28,6 +28,11 @@ class FakeAlerts : public Alerts {
     return shown_;
   }
 
+  void forgetShown() {
+    const std::scoped_lock lock(mutex_);
+    shown_.clear();
+  }
+
   AlertAnswer runModal(const Alert& alert) override {
     journal_.add("alert " + quoted(alert.title) + ' ' + quoted(alert.message) + ' ' + quoted(alert.defaultButton) +
                  ' ' + quoted(alert.alternateButton));

@@ -116,7 +116,12 @@ class FakeEventLoop : public EventLoop {
     }
     if (whenServed_) whenServed_();
     while (!done()) {
-      if (drain() == 0) std::this_thread::yield();
+      if (drain() != 0) continue;
+      if (posts_ == Posts::queued) {
+        waitForPosts(1);  // whoever makes it done posts something afterwards
+      } else {
+        std::this_thread::yield();
+      }
     }
     return true;
   }

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <limits>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -23,6 +24,10 @@ struct FakeVolume {
   FakeDisk disk;
   std::atomic<bool> mounted{true};
   std::atomic<bool> readOnly{false};
+  /// No file can have more bytes.
+  std::atomic<std::uint64_t> largestFile{std::numeric_limits<std::uint64_t>::max()};
+  /// Writes to files that had lost their last name: a cancel takes them away under their writer.
+  std::atomic<std::uint64_t> writesWithoutName{0};
 };
 
 /// A regular file's contents: its blocks go back to the disk when the last name and the last handle are gone.
@@ -35,7 +40,7 @@ struct FakeFileBody {
   std::shared_ptr<FakeVolume> volume;
   std::vector<std::size_t> blocks;
   std::uint64_t bytes = 0;
-  std::size_t names = 1;
+  std::atomic<std::size_t> names = 1;
 };
 
 /// What a name in a directory leads to.

@@ -29,6 +29,8 @@ class FakeFilesWorld : public FilesWorld {
     files_.addHardLink(parentOf(path), nameOf(existing), nameOf(path));
   }
 
+  void takeVolumeAway() override { files_.volume(kVolume).mounted = false; }
+
   bool directoryExists(const std::string& path) override { return files_.directoryExists(path); }
   std::optional<std::uint64_t> bytesOf(const std::string& path) override {
     if (!files_.directoryExists(parentOf(path))) return std::nullopt;

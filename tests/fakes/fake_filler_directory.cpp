@@ -121,6 +121,9 @@ Error FakeFillerDirectory::remove() {
   const ErrorCode code = scripted != ErrorCode::none ? scripted : mediumFault();
   if (code != ErrorCode::none) return fakeError(code, "unlinkat", directory_->path);
   cleanUpSteps_ += directory_->entries.size();
+  for (auto& [name, entry] : directory_->entries) {
+    if (entry.body) --entry.body->names;
+  }
   directory_->entries.clear();
   return fakeError(files_.forget(*directory_) ? ErrorCode::none : ErrorCode::notFound, "unlinkat", directory_->path);
 }
@@ -133,6 +136,7 @@ WriteResult FakeFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes, 
   const FaultScript::Verdict verdict = files_.script.arrive(FileCall::pwrite);
   files_.journal_.add("pwrite " + name_ + ' ' + std::to_string(bytes) + '@' + std::to_string(offset) + ' ' +
                       patternOf(data, bytes));
+  if (body_->names == 0) ++body_->volume->writesWithoutName;
   if (verdict.code != ErrorCode::none) return {-1, verdict.code};
   if (data == nullptr) return {-1, ErrorCode::other};
   if (!body_->volume->mounted) return {-1, ErrorCode::gone};
@@ -144,7 +148,7 @@ WriteResult FakeFillerFile::store(const std::uint8_t* data, std::size_t bytes, s
   FakeDisk& disk = body_->volume->disk;
   const std::uint64_t end = offset + bytes;
   std::uint64_t room = body_->blocks.size() * FakeDisk::kBlockBytes;
-  while (room < end) {
+  while (room < std::min(end, body_->volume->largestFile.load())) {
     const auto block = disk.allocate();
     if (!block) break;
     body_->blocks.push_back(*block);

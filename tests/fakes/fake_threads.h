@@ -3,6 +3,7 @@
 #include <functional>
 #include <mutex>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -20,14 +21,31 @@ class FakeThreads : public Threads {
   explicit FakeThreads(Journal& journal) : journal_(journal) {}
   ~FakeThreads() override { joinAll(); }
 
-  void setMode(Mode mode) { mode_ = mode; }
+  void setMode(Mode mode) {
+    const std::scoped_lock lock(mutex_);
+    mode_ = mode;
+  }
+
+  /// The system has no thread to spare for those of that name.
+  void refuse(const std::string& name) {
+    const std::scoped_lock lock(mutex_);
+    refused_ = name;
+  }
+
+  /// The name of the thread that calls, if it was really started here; else "".
+  [[nodiscard]] static const std::string& current() { return current_; }
 
   void detach(const std::string& name, std::function<void()> body) override {
     journal_.add("detach");
     const std::scoped_lock lock(mutex_);
+    if (name == refused_) throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
     names_.push_back(name);
     if (mode_ == Mode::real) {
-      running_.emplace_back(std::move(body));
+      bodies_.emplace_back();  // none that is left to run by hand
+      running_.emplace_back([name, body = std::move(body)] {
+        current_ = name;
+        body();
+      });
     } else {
       bodies_.push_back(std::move(body));
     }
@@ -49,7 +67,7 @@ class FakeThreads : public Threads {
       std::function<void()> body;
       {
         const std::scoped_lock lock(mutex_);
-        if (names_[nth] != name || nth >= bodies_.size()) continue;
+        if (names_[nth] != name) continue;
         body.swap(bodies_[nth]);
       }
       if (body) body();
@@ -79,9 +97,12 @@ class FakeThreads : public Threads {
   }
 
  private:
+  inline static thread_local std::string current_;
+
   Journal& journal_;
-  Mode mode_ = Mode::byHand;
   mutable std::mutex mutex_;  // guards the members below
+  Mode mode_ = Mode::byHand;
+  std::string refused_;
   std::vector<std::string> names_;
   std::vector<std::function<void()>> bodies_;
   std::vector<std::thread> running_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <mutex>
 #include <string>
@@ -13,10 +14,15 @@ using Steps = std::vector<std::string>;
 /// What the controller did to the outside, in order, whichever port it went through. Any thread.
 class Journal {
  public:
-  void add(std::string entry) {
-    const std::scoped_lock lock(mutex_);
-    entries_.push_back(std::move(entry));
+  void add(const std::string& entry) {
+    {
+      const std::scoped_lock lock(mutex_);
+      entries_.push_back(entry);
+    }
+    if (whenAdded_) whenAdded_(entry);
   }
+  /// Runs at every call of a port, as it arrives, on the caller's thread. Set before other threads are there.
+  void whenAdded(std::function<void(const std::string&)> hook) { whenAdded_ = std::move(hook); }
 
   [[nodiscard]] Steps all() const {
     const std::scoped_lock lock(mutex_);
@@ -47,6 +53,7 @@ class Journal {
     return kept;
   }
 
+  std::function<void(const std::string&)> whenAdded_;
   mutable std::mutex mutex_;
   Steps entries_;
 };

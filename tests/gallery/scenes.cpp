@@ -4,6 +4,7 @@
 
 #include "platform/qt/completed_window.h"
 #include "wipe/filler_names.h"
+#include "wipe/filler_size.h"
 
 namespace calvero::testing {
 namespace {

@@ -161,6 +161,15 @@ TEST(SelectedVolumeCheck, TellsAVolumeThatIsNotMountedAnyMore) {
   EXPECT_EQ(app.checkSelectedVolume().code, ErrorCode::notFound);
 }
 
+TEST(SelectedVolumeCheck, RefusesAVolumeThatGaveNoFiguresWhenItWasListed) {
+  World world;
+  MountedVolume volume = described("ext4");
+  volume.availableBytes = 0;
+  volume.totalBytes = 0;
+  world.volume(volume);
+  EXPECT_EQ(world.launch().checkSelectedVolume().code, ErrorCode::gone);
+}
+
 TEST(SelectedVolumeCheck, PassesOnWhyTheDirectoryCannotBeMade) {
   World world;
   world.volume("DATA", 100'000);

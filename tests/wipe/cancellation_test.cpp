@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/world.h"
+#include "tests/wipe/alert_texts.h"
 
 namespace calvero {
 namespace {
@@ -12,8 +13,6 @@ using testing::FileCall;
 using ::testing::IsEmpty;
 using testing::Steps;
 using testing::World;
-
-constexpr const char* kAbortedAlert = "alert \"Information\" \"Wiping process aborted\" \"OK\" \"\"";
 
 class Cancellation : public ::testing::Test {
  protected:
@@ -184,6 +183,33 @@ TEST_F(Cancellation, IsNoFaultForTheWriterWhoseFileIsTakenAway) {
   world.runWorker();
   EXPECT_EQ(run->faults(), 0U);
   EXPECT_EQ(run->outcome, RunOutcome::cancelled);
+}
+
+TEST_F(Cancellation, WhileTheNextFileIsLookedForIsNoLostVolume) {
+  world.start();
+  world.files.script.before(FileCall::exists, 2, [this] { world.app().cancelWipe(); });
+  world.runWorker();
+  EXPECT_THAT(world.journal.only({"alert", "terminate"}), ElementsAre(kAbortedAlert));
+  EXPECT_EQ(world.app().currentRun()->volumeEjected, 0);
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+}
+
+TEST_F(Cancellation, LeavesADirectoryThatCannotBeRemovedYetToTheWorkerWithoutANotice) {
+  world.start();
+  world.files.script.before(FileCall::pwrite, 3, [this] { world.app().cancelWipe(); });
+  world.files.script.failAt(FileCall::removeDirectory, 1, ErrorCode::other);
+  world.runWorker();
+  EXPECT_THAT(world.journal.only({"notice"}), IsEmpty());
+  EXPECT_THAT(world.journal.only({"log unlinkat"}),
+              ElementsAre("log unlinkat /media/DATA/.$$XE8AQU: as the test has it"));
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+}
+
+TEST(CancellationWithoutVolumes, StillTellsTheUser) {
+  World world;
+  world.launch().cancelWipe();
+  EXPECT_EQ(world.journal.only({"log cancel:"}).size(), 1U);
+  EXPECT_THAT(world.journal.only({"alert"}), ElementsAre(kAbortedAlert));
 }
 
 class Completion : public Cancellation {};

@@ -229,5 +229,16 @@ TEST_F(CleanUp, TellsHowMuchSpaceCouldNotBeHeld) {
   EXPECT_NE(notices[0].find("2.00 MB"), std::string::npos) << notices[0];
 }
 
+TEST_F(CleanUp, TellsOnlyOnceHowMuchSpaceCouldNotBeHeldThoughACancelAndTheWorkerBothCleanUp) {
+  world.files.setHandleLimit(0);
+  layOut();
+  world.app().fillFilePath(*run, run->filePathsArray[0], 2'000'000);
+  world.app().deleteByFiles(*run, 0);
+  world.journal.clear();
+  world.app().cancelWipe();
+  world.app().deleteFiles(*run);
+  EXPECT_EQ(world.journal.only({"notice"}).size(), 1U);
+}
+
 }  // namespace
 }  // namespace calvero

@@ -152,6 +152,37 @@ TEST_F(Coverage, CountsABlockWithAFailedPassAsNotCovered) {
   EXPECT_EQ(run->faults(), 1U);
 }
 
+TEST_F(Coverage, CountsABlockWhoseFlushFailedAsNotCovered) {
+  for (const ErrorCode code : {ErrorCode::gone, ErrorCode::full}) {
+    World other;
+    other.volume("DATA", 200'000'000);
+    AppDelegate& app = other.start();
+    const RunPtr disturbed = app.currentRun();
+    app.createFile(*disturbed);
+    other.files.script.failAt(FileCall::fsync, 2, code);
+    app.fillFilePath(*disturbed, disturbed->filePathsArray[0], 3 * 32768);
+    EXPECT_EQ(disturbed->counters.bytesCovered, 2U * 32768U);
+    EXPECT_EQ(disturbed->counters.bytesWritten, 3U * 32768U) << "and the file is written on";
+  }
+}
+
+TEST_F(Coverage, TakesAFileThatCannotBeOpenedForAFaultEvenOnAFullVolume) {
+  start(200'000'000);
+  world.app().createFile(*run);
+  world.files.script.failAt(FileCall::open, 1, ErrorCode::full);
+  world.app().fillFilePath(*run, run->filePathsArray[0], 32768);
+  EXPECT_EQ(run->faults(), 1U);
+  EXPECT_EQ(run->firstFault().code, ErrorCode::full);
+}
+
+TEST_F(Coverage, TellsWhyAFileThatIsFoundMissingCouldNotBeCreated) {
+  start(200'000'000);
+  world.files.script.failAt(FileCall::createFile, 2, ErrorCode::full);
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::failed);
+  EXPECT_EQ(run->firstFault().operation, "openat");
+}
+
 TEST_F(Coverage, ClaimsNoMoreThanTheVolumeHolds) {
   start(2'010'000);
   world.runWorker();

@@ -137,6 +137,20 @@ TEST_F(ElapsedClock, PausesBetweenTwoLooksForLessThanASecond) {
   EXPECT_EQ(looks, 8);
 }
 
+TEST_F(ElapsedClock, EndsWithARunThatEndsTheApplicationItself) {
+  world.order("DATA", "1");
+  world.launch();
+  world.clock.whenSlept([this](Clock::Duration slept) {
+    const bool isPauseOfTheClock = slept > Clock::Duration::zero() && slept < std::chrono::seconds(1);
+    if (!isPauseOfTheClock) return;
+    if (++looks == 1) world.runWorker();
+    if (looks == 8) world.app().setAbortErasing(true);
+  });
+  world.runElapsedClock();
+  EXPECT_EQ(world.loop.terminations(), 1);
+  EXPECT_EQ(looks, 1);
+}
+
 TEST_F(ElapsedClock, TouchesNothingWhenTheRunIsAlreadyAborted) {
   AppDelegate& app = world.start();
   app.setAbortErasing(true);

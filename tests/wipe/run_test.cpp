@@ -74,6 +74,17 @@ TEST_F(Proceed, DoesNotMindTheAnswerToTheNotice) {
   EXPECT_EQ(world.controls.page(), 2);
 }
 
+TEST_F(Proceed, StartsNothingOnceTheSuiteHasEndedTheApplicationDuringTheNotice) {
+  reachMethodPage();
+  world.alerts.whileShown([this] {
+    if (world.alerts.shown().size() == 1) world.systemNotifications.send("cancel wipe", "cancel");
+  });
+  world.proceed();
+  EXPECT_EQ(world.loop.terminations(), 1);
+  EXPECT_THAT(world.threads.names(), ElementsAre("calvero-cancel"));
+  EXPECT_EQ(world.app().shell().wipingProcessOn, 0);
+}
+
 TEST_F(Proceed, LocalisesTheQuestionsFourTextsAndTheNoticesTitle) {
   world.localisation.markTexts();
   reachMethodPage();
@@ -238,6 +249,17 @@ TEST_F(Phases, EndTheApplicationWhenACancelArrivedDuringTheFirst) {
       ElementsAre("alert \"Information\" \"Wiping process aborted\" \"OK\" \"\"", kUnknownErrorAlert, "terminate"));
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
   EXPECT_EQ(world.files.script.count(FileCall::open), 0U);
+}
+
+TEST_F(Phases, EndTheApplicationAndLeaveNothingWhenTheSystemHasNoThreadToSpare) {
+  const RunPtr run = startWithoutPasses();
+  world.threads.refuse("calvero-data");
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::failed);
+  EXPECT_EQ(run->workerEnded, 1);
+  EXPECT_EQ(world.journal.only({"log run:"}).size(), 1U);
+  EXPECT_THAT(world.journal.only({"alert", "terminate"}), ElementsAre(kUnknownErrorAlert, "terminate"));
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
 }
 
 TEST_F(Phases, MarkAFinishedRunAsOverAndLeaveTheProcessOn) {

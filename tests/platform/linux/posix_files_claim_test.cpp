@@ -4,8 +4,6 @@
 #include <sys/wait.h>
 
 #include <array>
-#include <functional>
-#include <optional>
 
 #include "tests/platform/linux/posix_files_test_volume.h"
 
@@ -19,21 +17,6 @@ class FillerDirectoryClaim : public FillerVolume {
   void makeLeftDirectory(mode_t mode = S_IRWXU) const {
     fs::create_directory(directory_);
     ASSERT_EQ(::chmod(directory_.c_str(), mode), 0);
-  }
-  /// The answer of `condition` in a process of another user; nothing where there can be no such process.
-  std::optional<bool> asAnotherUser(const std::function<bool()>& condition) const {
-    EXPECT_EQ(::chmod(top_.c_str(), 0755), 0);
-    constexpr int kNotPermitted = 2;
-    const pid_t child = ::fork();
-    if (child == 0) {
-      if (::setuid(kAnotherUser) != 0) ::_exit(kNotPermitted);
-      ::_exit(condition() ? 0 : 1);
-    }
-    int status = -1;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFEXITED(status));
-    if (WEXITSTATUS(status) == kNotPermitted) return std::nullopt;
-    return WEXITSTATUS(status) == 0;
   }
   [[nodiscard]] mode_t modeOf(const std::string& path) const {
     struct stat found = {};
@@ -89,6 +72,7 @@ TEST_F(FillerDirectoryClaim, RefusesAnotherUsersDirectory) {
 }
 
 TEST_F(FillerDirectoryClaim, RefusesAnotherUsersDirectoryThatItCannotOpen) {
+  ASSERT_EQ(::chmod(volume_.c_str(), 01777), 0);
   makeLeftDirectory(0);
   const auto refused = asAnotherUser([this] {
     return check().code == ErrorCode::notOurs && create() == nullptr && error_.code == ErrorCode::notOurs;
@@ -149,6 +133,35 @@ TEST_F(FillerDirectoryClaim, RefusesADirectoryThatHoldsAFolderWithFilesBeforeAny
   EXPECT_TRUE(fs::exists(pathOf(".temp0")));
   EXPECT_TRUE(fs::exists(pathOf(".temp49")));
   EXPECT_EQ(modeOf(directory_), 0755U);
+}
+
+TEST_F(FillerDirectoryClaim, RefusesADirectoryThatHoldsAFileThatNoRunMakes) {
+  for (const char* name : {"letter", ".temp", ".temp1~", ".temporary", "temp1", ".temp-1", ".Temp1"}) {
+    SCOPED_TRACE(name);
+    makeLeftDirectory(0755);
+    writeFile(pathOf(".temp0"), "old");
+    writeFile(pathOf(name), kPreciousText);
+    expectRefused(ErrorCode::notOurs, "it holds other files");
+    EXPECT_EQ(PosixFiles::bytesInLeftDirectory(volume_, directory_), 0U);
+    EXPECT_EQ(readFile(pathOf(name)), kPreciousText);
+    EXPECT_TRUE(fs::exists(pathOf(".temp0")));
+    EXPECT_EQ(modeOf(directory_), 0755U);
+    fs::remove_all(directory_);
+  }
+}
+
+TEST_F(FillerDirectoryClaim, RefusesADirectoryThatHoldsALinkThatNoRunMakes) {
+  makeLeftDirectory();
+  fs::create_symlink(precious_, pathOf("link"));
+  expectRefused(ErrorCode::notOurs, "it holds other files");
+  EXPECT_TRUE(fs::is_symlink(pathOf("link")));
+}
+
+TEST_F(FillerDirectoryClaim, TakesOverWhatFileSystemsMakeOfARemovedFileThatIsOpen) {
+  makeLeftDirectory();
+  for (const char* name : {".fuse_hidden0000000a00000001", ".nfs00000000000a"}) writeFile(pathOf(name), "old");
+  ASSERT_NE(create(), nullptr) << error_.text();
+  EXPECT_TRUE(fs::is_empty(directory_));
 }
 
 TEST_F(FillerDirectoryClaim, RefusesADirectoryThatHoldsAMountPoint) {

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 class PosixWorld : public FilesWorld {
  public:
   Files& files() override { return files_; }
-  std::string volumePath() override { return folder_.path(); }
+  std::string volumePath() override { return volume_; }
 
   void plantDirectory(const std::string& path) override { fs::create_directory(path); }
   void plantForeignDirectory(const std::string& path) override { std::ofstream(path) << "precious"; }
@@ -28,6 +28,8 @@ class PosixWorld : public FilesWorld {
     fs::create_hard_link(existing, path);
   }
 
+  void takeVolumeAway() override { fs::rename(volume_, folder_.path() + "/elsewhere"); }
+
   bool directoryExists(const std::string& path) override { return fs::is_directory(path); }
   std::optional<std::uint64_t> bytesOf(const std::string& path) override {
     if (!fs::is_regular_file(fs::symlink_status(path))) return std::nullopt;
@@ -36,6 +38,7 @@ class PosixWorld : public FilesWorld {
 
  private:
   const ScopedFolder folder_;
+  const std::string volume_ = folder_.make("volume");
   PosixFiles files_;
 };
 

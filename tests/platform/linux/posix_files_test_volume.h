@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
+#include <optional>
 #include <string>
 
 #include "platform/linux/posix_files.h"
@@ -58,6 +62,21 @@ class FillerVolume : public ::testing::Test {
     }
   }
 
+  /// The answer of `condition` in a process of another user; nothing where there can be no such process.
+  std::optional<bool> asAnotherUser(const std::function<bool()>& condition) const {
+    EXPECT_EQ(::chmod(top_.c_str(), 0755), 0);
+    constexpr int kNotPermitted = 2;
+    const pid_t child = ::fork();
+    if (child == 0) {
+      if (::setuid(kAnotherUser) != 0) ::_exit(kNotPermitted);
+      ::_exit(condition() ? 0 : 1);
+    }
+    int status = -1;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == kNotPermitted) return std::nullopt;
+    return WEXITSTATUS(status) == 0;
+  }
   [[nodiscard]] std::string pathOf(const std::string& name) const { return directory_ + '/' + name; }
   static void writeFile(const std::string& path, const std::string& text) {
     std::ofstream(path, std::ios::binary) << text;

@@ -57,6 +57,17 @@ TEST(PrintableLabel, ReplacesEachByteThatIsNoUtf8) {
   EXPECT_EQ(printableLabel("\xE2\x28\xA1"), "�(�") << "a text goes on after a broken character";
 }
 
+TEST(NameFromLabel, IsNeverAnAbsolutePath) {
+  EXPECT_EQ(nameFromLabel("/home"), "�home");
+  EXPECT_EQ(nameFromLabel(" /"), "�");
+  EXPECT_EQ(nameFromLabel("//home"), "�/home");
+}
+
+TEST(NameFromLabel, IsThePrintableLabelOtherwise) {
+  EXPECT_EQ(nameFromLabel(" a/b\x1B "), "a/b�");
+  EXPECT_EQ(nameFromLabel("  "), "");
+}
+
 TEST(LastPart, IsWhatFollowsTheLastSlash) {
   EXPECT_EQ(lastPartOf("/media/ann/STICK"), "STICK");
   EXPECT_EQ(lastPartOf("/mnt"), "mnt");

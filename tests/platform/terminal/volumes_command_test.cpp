@@ -45,6 +45,14 @@ TEST(VolumesJson, ReplacesWhatIsNotUtf8InAPath) {
   EXPECT_EQ(nlohmann::json::parse(volumesJson({volume}))[0]["mountPath"], "/media/\uFFFD");
 }
 
+TEST(VolumesJson, EscapesWhatATerminalWouldObey) {
+  MountedVolume volume = stick();
+  volume.mountPath = "/media/ö\033[2J\x7F\u009B2J\u202E\u2028";
+  const std::string text = volumesJson({volume});
+  EXPECT_THAT(text, HasSubstr("/media/ö\\u001b[2J\\u007f\\u009b2J\\u202e\\u2028\""));
+  EXPECT_EQ(nlohmann::json::parse(text)[0]["mountPath"], volume.mountPath);
+}
+
 TEST(VolumesJson, IsAnEmptyArrayWithoutVolumes) {
   EXPECT_EQ(volumesJson({}), "[]");
 }
