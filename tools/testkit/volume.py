@@ -66,7 +66,7 @@ def whyUnavailable(fs):
 _privateMounts = False
 
 
-def _usePrivateMounts():
+def usePrivateMounts():
     global _privateMounts
     if _privateMounts:
         return
@@ -87,7 +87,7 @@ def protectDisks():
     global _protected
     if _protected:
         return
-    _usePrivateMounts()
+    usePrivateMounts()
     kept = {"/tmp", tempfile.gettempdir()}  # the screen's server knows only the first
     disks = [path for path in _disks() if path not in kept]
     for path in kept:
@@ -161,7 +161,7 @@ class Volume:
         reason = whyUnavailable(fs)
         if reason:
             raise Unavailable(reason)
-        _usePrivateMounts()
+        usePrivateMounts()
         self.fs = fs
         self.sizeBytes = sizeBytes
         Volume._made += 1
@@ -190,6 +190,13 @@ class Volume:
     def unmount(self):
         subprocess.run(["umount", self.path], check=True)
         self._mounted = False
+
+    def mountAt(self, path):
+        """From now on at a folder of that name, which is made."""
+        self.unmount()
+        os.rename(self.path, path)
+        self.path = path
+        self.mount()
 
     def noteUnmounted(self):
         """Somebody else has unmounted it."""

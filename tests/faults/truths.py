@@ -1,0 +1,93 @@
+"""What must be true of every run, whatever failed under it."""
+
+from testkit.program import EXIT_FAILED, EXIT_FINISHED, EXIT_REFUSED
+
+# How a volume says that it is full, which is the normal end of a fill: it is believed even where room is left.
+_FULL = {"ENOSPC", "EDQUOT"}
+
+
+class Fault:
+    """One point of the sweep: the call of a kind, by its number, and what becomes of it."""
+
+    def __init__(self, text):
+        self.text = text
+        self.kind, call, action = text.split(":")
+        self.call = int(call)
+        self.lasts = action.endswith("+")
+        self.action = action.rstrip("+")
+
+    def saysFull(self):
+        return self.kind in ("write", "fsync") and (self.action in _FULL or self.action == "tear")
+
+    def losesData(self):
+        """Whether a write or its flush fails for another reason than a full volume."""
+        return self.kind in ("write", "fsync") and self.action not in _FULL | {"tear", "delay"}
+
+
+def untruths(fault, ended, withLeftovers):
+    """What is wrong with how the run ended, as texts."""
+    return [*_untrueEnd(ended), *_untrueReport(ended), *_untrueSuccess(fault, ended),
+            *_leftBehind(fault, ended, withLeftovers)]
+
+
+def untruthsOfNextRun(ended):
+    if ended.exitCode != EXIT_FINISHED:
+        yield f"the next run ended with {ended.exitCode}: {ended.errors.strip()}"
+    if ended.left is not None:
+        yield f"the next run left {ended.left} behind"
+    if not ended.keptUnchanged:
+        yield "the next run changed kept files"
+    if ended.calls["fewestFreeClusters"] != 0:
+        yield "the next run did not fill the volume"
+
+
+def _untrueEnd(ended):
+    if ended.exitCode not in (EXIT_FINISHED, EXIT_FAILED, EXIT_REFUSED):
+        yield f"it ended with {ended.exitCode}"
+    for word in ("Sanitizer", "runtime error", "terminate called"):
+        if word in ended.errors:
+            yield f"it crashed: {ended.errors}"
+    if not ended.keptUnchanged:
+        yield "kept files have changed"
+
+
+def _untrueReport(ended):
+    report = ended.report
+    if report.get("exitCode") != ended.exitCode:
+        yield f"it reported {report.get('exitCode')} and ended with {ended.exitCode}"
+    outcomes = {EXIT_FINISHED: {"finished"}, EXIT_FAILED: {"failed", "finished"}, EXIT_REFUSED: {"refused"}}
+    if report.get("outcome") not in outcomes.get(ended.exitCode, ()):
+        yield f"it reported {report.get('outcome')} and ended with {ended.exitCode}"
+    if (report.get("outcome") == "finished") and (ended.exitCode == EXIT_FINISHED) != (report["faults"] == 0):
+        yield f"it finished with {report['faults']} faults and ended with {ended.exitCode}"
+    if ended.exitCode != EXIT_FINISHED and not ended.errors.strip():
+        yield "it does not say why"
+    if report.get("bytesWritten", 0) != ended.calls["bytesWritten"]:
+        yield f"it reported {report.get('bytesWritten')} bytes written, of {ended.calls['bytesWritten']}"
+    if report.get("bytesCovered", 0) * max(report.get("passes", 1), 1) > ended.calls["bytesFlushed"]:
+        yield f"it reported {report['bytesCovered']} bytes covered, flushed were {ended.calls['bytesFlushed']}"
+    if ended.exitCode == EXIT_REFUSED and ended.calls["bytesWritten"] != 0:
+        yield "it was refused and wrote"
+
+
+def _untrueSuccess(fault, ended):
+    if ended.exitCode != EXIT_FINISHED:
+        return
+    if fault.losesData():
+        yield "data may remain, and it calls itself finished"
+    if fault.saysFull():
+        return
+    if ended.calls["fewestFreeClusters"] != 0:
+        yield f"{ended.calls['fewestFreeClusters']} clusters were never taken, and it calls itself finished"
+    if ended.calls["unflushedWrites"] != 0:
+        yield "it did not flush every write, and calls itself finished"
+
+
+def _leftBehind(fault, ended, withLeftovers):
+    """What the fault itself keeps from being removed stays: all that is on a volume that has died, and all where the
+    removing calls go on failing. Nobody takes over a directory that an earlier run left but could not be looked at."""
+    if ended.left is None or fault.action == "die" or fault.lasts:
+        return
+    if withLeftovers and ended.calls["bytesWritten"] == 0 and ended.exitCode != EXIT_FINISHED:
+        return
+    yield f"it left {ended.left} behind"
