@@ -52,8 +52,11 @@ class SystemTest(unittest.TestCase):
         return report
 
     def startProgram(self, *arguments, plainUser=False):
-        process = subprocess.Popen([self.programFor(plainUser), *arguments], stdin=subprocess.DEVNULL,
-                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, **startedAs(plainUser))
+        return self.startCommand([self.programFor(plainUser), *arguments], plainUser)
+
+    def startCommand(self, command, plainUser=False):
+        process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                                   text=True, **startedAs(plainUser))
 
         def end():
             if process.poll() is None:

@@ -45,7 +45,6 @@ class LostVolume(RemoteTest):
         self.assertEqual(order.status, FAILED)
 
     def testAVolumeTakenOutOfTheTreeIsTold(self):
-        # Nothing that is written fails then: it is seen between two files.
         target = self.makeVolume("ext4", 96)
         order = self.startOrder(target)
         self.waitUntilWriting(target)

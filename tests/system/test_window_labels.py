@@ -1,11 +1,16 @@
 """A volume's label is text from a stranger: it is shown as text, whatever it holds."""
 
+import os
 import re
 
 from window_case import FAST, ISOLATES, QUESTION, REQUEST, WindowTest
 
 REPLACEMENT = "\N{REPLACEMENT CHARACTER}"
 OVERRIDE = "\N{RIGHT-TO-LEFT OVERRIDE}"
+END_OF_ISOLATE = "\N{POP DIRECTIONAL ISOLATE}"
+HARMFUL = f"[\0-\x1f\x7f-\x9f\u2028\u2029{OVERRIDE}{END_OF_ISOLATE}]"
+# Name, kind of drive, file system, mount path, size and free space.
+LINES_OF_A_TOOL_TIP = 6
 
 # file system, size in MiB, label, name shown
 LABELS = (
@@ -20,10 +25,12 @@ class HostileLabels(WindowTest):
     def checkShown(self, target, window):
         """In the tile and its tool tip, in the description and in the question that follows."""
         tile = window.find("list item", target.name)
-        self.assertNotRegex(tile.description, "[\0-\x1f]")
+        self.assertNotRegex(tile.description, HARMFUL)
         window.hover(tile)
-        tip = window.find("tool tip")
-        self.assertEqual(ISOLATES.sub("", tip.name).splitlines()[0], target.name)
+        tip = ISOLATES.sub("", window.find("tool tip").name)
+        self.assertNotRegex(tip.replace("\n", ""), HARMFUL)
+        self.assertEqual(tip.splitlines()[0], target.name)
+        self.assertEqual(len(tip.splitlines()), LINES_OF_A_TOOL_TIP)
         self.choose(window, target)
 
     def checkErased(self, target, window):
@@ -58,6 +65,20 @@ class HostileLabels(WindowTest):
         self.assertEqual(self.widthOf(window), narrow)
         self.checkErased(target, window)
         self.assertEqual(self.widthOf(window), narrow)
+
+    def testAHostileMountPathIsShownAsPlainText(self):
+        target = self.makeVolume("ext4", 16, label=" ")
+        parent = target.path + "-of"
+        os.mkdir(parent)
+        self.addCleanup(os.rmdir, parent)
+        self.addCleanup(target.close)
+        target.mountAt(os.path.join(parent, f"<b>a&amp;\x1b[2J\n\u009b{END_OF_ISOLATE}{OVERRIDE}\u2028b"))
+        target.name = f"<b>a&amp;{REPLACEMENT}[2J{5 * REPLACEMENT}b"
+        window = self.startWindow()
+        self.checkShown(target, window)
+        tile = window.find("list item", target.name)
+        self.assertIn(f"{parent}/{target.name},", tile.description)
+        self.checkErased(target, window)
 
     def testTwoVolumesOfOneLabelGetNamesOfTheirOwn(self):
         targets = [self.makeVolume("ext4", 16, label="TWIN") for _ in range(2)]

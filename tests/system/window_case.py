@@ -110,6 +110,13 @@ class WindowTest(SystemTest):
         window.waitUntilGone("dialog", "Calvero")
         self.assertOnFirstPage(window)
 
+    def cancelWhileItHangs(self, window):
+        """Cancels the run on a volume that does not answer, and goes back to the first page."""
+        window.pressButton("Cancel")
+        window.find("label", "Please wait, finishing current process..")
+        self.answer(window, "Information", "Wiping process aborted", timeout=30)
+        self.assertOnFirstPage(window)
+
     def quit(self, window, seconds=10):
         window.closeWindow()
         self.assertEqual(window.waitForEnd(seconds), (0, "", ""))

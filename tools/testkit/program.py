@@ -56,6 +56,14 @@ def startedAs(plainUser):
     return options | {"user": PLAIN_USER, "group": PLAIN_USER, "extra_groups": []} if plainUser else options
 
 
+def hasLeft(process):
+    """Whether it has ended, but for threads that the kernel holds until a medium answers."""
+    if process.poll() is not None:
+        return True
+    with open(f"/proc/{process.pid}/stat") as file:
+        return file.read().rpartition(")")[2].split()[0] == "Z"
+
+
 def waitUntil(condition, what, seconds=60):
     """Polls `condition` and returns its first true value; fails loudly when it never comes."""
     deadline = time.monotonic() + seconds
@@ -69,7 +77,7 @@ def waitUntil(condition, what, seconds=60):
 class TerminalProgram:
     """A program whose standard streams are a terminal of its own; remembers what it printed, and when."""
 
-    def __init__(self, command, columns=80, term="xterm"):
+    def __init__(self, command, columns=80, term="xterm", env=None, plainUser=False):
         self._controller, terminal = pty.openpty()
         fcntl.ioctl(terminal, termios.TIOCSWINSZ, bytes((24, 0, columns, 0, 0, 0, 0, 0)))
 
@@ -78,8 +86,8 @@ class TerminalProgram:
             fcntl.ioctl(0, termios.TIOCSCTTY, 0)
 
         self.process = subprocess.Popen(
-            command, stdin=terminal, stdout=terminal, stderr=terminal, env=os.environ | {"TERM": term},
-            start_new_session=True, preexec_fn=takeTerminal)
+            command, stdin=terminal, stdout=terminal, stderr=terminal, env=os.environ | {"TERM": term} | (env or {}),
+            start_new_session=True, **startedAs(plainUser) | {"preexec_fn": takeTerminal})
         os.close(terminal)
         self.reads = []  # (seconds, bytes)
         self._answered = 0

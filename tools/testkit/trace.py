@@ -1,5 +1,6 @@
 """System calls as strace saw them from outside."""
 
+import collections
 import os
 import re
 import shutil
@@ -12,12 +13,14 @@ _TRACED = (
     "copy_file_range,fsync,fdatasync,sync_file_range,syncfs,setxattr,fsetxattr,chmod,fchmod,fchmodat,chown,fchown,"
     "fchownat,utimensat,io_uring_setup,close"
 )
+_LOOKS = "openat,statx,mkdirat,flock,getdents64,fchmod,unlinkat"
 WRITES = frozenset(
     "write writev pwrite64 pwritev pwritev2 sendfile copy_file_range truncate ftruncate fallocate".split())
 
 _UNFINISHED = " <unfinished ...>"
 _RESUMED = re.compile(r"<\.\.\. \w+ resumed>(.*)")
 _CALL = re.compile(r"(\w+)\((.*)\)\s+= (-?\d+)")
+_BEGUN = re.compile(r"(\d+)\s+(\w+)\(")
 _DESCRIPTOR = re.compile(r"(-?\d+|AT_FDCWD)<([^>]*)>")
 _WRITE = re.compile(r'"((?:[^"\\]|\\.)*)"(?:\.\.\.)?, (\d+), (\d+)$')
 
@@ -49,11 +52,78 @@ def available():
     return shutil.which("strace") is not None
 
 
-def command(outputPath, program):
+def _sanitizerOptions():
     # The leak check of a sanitized program is a tracer itself, and there can be but one.
-    sanitizer = os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
+    return (os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0").lstrip(":")
+
+
+def command(outputPath, program):
     return ["strace", "-f", "--seccomp-bpf", "-y", "-x", "-s", "8", "-qq", "-e", f"trace={_TRACED}",
-            "-e", "signal=none", "-E", f"ASAN_OPTIONS={sanitizer.lstrip(':')}", "-o", outputPath, "--", *program]
+            "-e", "signal=none", "-E", f"ASAN_OPTIONS={_sanitizerOptions()}", "-o", outputPath, "--", *program]
+
+
+def _tracing(outputPath, program, paths, *options):
+    # Not with --seccomp-bpf, under which no signal is delivered.
+    ofPaths = [option for path in paths for option in ("-P", path)]
+    return ["strace", "-f", "-qq", *ofPaths, *options, "-E", f"ASAN_OPTIONS={_sanitizerOptions()}", "-o", outputPath,
+            "--", *program]
+
+
+def noting(outputPath, program, paths):
+    """A command that runs the program and notes every call on those paths: see `points`."""
+    return _tracing(outputPath, program, paths, "-e", "signal=none")
+
+
+@dataclass(frozen=True)
+class Point:
+    """A place in a program's run: the system call of that name that is some thread's `number`th on the traced paths.
+    A path is that of a descriptor, or what is written in the call."""
+
+    name: str
+    number: int
+
+
+def _at(point, signalName):
+    return ["-e", f"inject={point.name}:signal={signalName}:when={point.number}"]
+
+
+def killing(outputPath, program, paths, point):
+    """A command that runs the program and kills it on its way into a call; it ends as the program does."""
+    return _tracing(outputPath, program, paths, *_at(point, "KILL"))
+
+
+def stopping(outputPath, program, paths, point):
+    """A command that becomes the program, which stops, as by SIGSTOP, once a call is done: see `isStopped`. Every
+    thread that gets there stops it."""
+    return _tracing(outputPath, program, paths, "-D", *_at(point, "STOP"))
+
+
+def delaying(program, paths, microseconds):
+    """A command that runs the program and halts it for a moment behind each call on those paths that looks for, makes
+    or removes something; it ends as the program does."""
+    ofPaths = [option for path in paths for option in ("-P", path)]
+    return ["strace", "-f", "-qq", *ofPaths, "-e", f"inject={_LOOKS}:delay_exit={microseconds}", "-e", "signal=none",
+            "-E", f"ASAN_OPTIONS={_sanitizerOptions()}", "-o", os.devnull, "--", *program]
+
+
+def isStopped(outputPath):
+    try:
+        with open(outputPath, errors="replace") as lines:
+            return "--- stopped by SIGSTOP ---" in lines.read()
+    except FileNotFoundError:
+        return False
+
+
+def points(outputPath):
+    """Where a program whose calls `noting` has noted can be stopped or killed, in their order."""
+    counts = collections.Counter()
+    found = {}
+    with open(outputPath, errors="replace") as lines:
+        for line in lines:
+            if match := _BEGUN.match(line):
+                counts[match[1], match[2]] += 1
+                found.setdefault(Point(match[2], counts[match[1], match[2]]))
+    return list(found)
 
 
 def calls(outputPath):
