@@ -1,11 +1,14 @@
 #include "platform/qt/qt_alerts.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
 #include <algorithm>
@@ -79,7 +82,31 @@ QPushButton* addButton(QDialogButtonBox& box, const std::string& text, QDialogBu
   return button;
 }
 
-void layOut(QDialog& dialog, const Alert& alert, QDialogButtonBox* buttons) {
+/// Commands are written from left to right in every language.
+QLineEdit* newCommandLine(const std::string& command, const std::string& caption, QDialog& dialog) {
+  constexpr int kBesideText = 16;
+  auto* line = new QLineEdit(QString::fromStdString(command), &dialog);
+  line->setObjectName("alertCommand");
+  line->setAccessibleName(QString::fromStdString(caption));
+  line->setReadOnly(true);
+  line->setLayoutDirection(Qt::LeftToRight);
+  line->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  const QFontMetrics metrics(line->font());
+  line->setMinimumWidth(std::min(metrics.horizontalAdvance(line->text()), metrics.averageCharWidth() * kMost) +
+                        kBesideText);
+  line->setCursorPosition(0);
+  return line;
+}
+
+void addCopyButton(QDialogButtonBox& box, const std::string& text, QLineEdit* line) {
+  QPushButton* button = addButton(box, text, QDialogButtonBox::ActionRole, "alertCopyButton");
+  QObject::connect(button, &QPushButton::clicked, line, [line] {
+    QGuiApplication::clipboard()->setText(line->text());
+    line->selectAll();  // shows that something has been done
+  });
+}
+
+void layOut(QDialog& dialog, const Alert& alert, QLineEdit* command, QDialogButtonBox* buttons) {
   constexpr int kMargin = 18;
   constexpr int kBesideIcon = 16;
   constexpr int kAboveButtons = 4;
@@ -96,14 +123,23 @@ void layOut(QDialog& dialog, const Alert& alert, QDialogButtonBox* buttons) {
                     Qt::AlignTop);
   layout->addWidget(newTextLabel(texts.heading, bold, dialog), 0, 1);
   if (!texts.details.isEmpty()) layout->addWidget(newTextLabel(texts.details, dialog.font(), dialog), 1, 1);
-  layout->setRowMinimumHeight(2, kAboveButtons);
-  layout->addWidget(buttons, 3, 0, 1, 2);
+  if (command != nullptr) layout->addWidget(command, 2, 0, 1, 2);
+  layout->setRowMinimumHeight(3, kAboveButtons);
+  layout->addWidget(buttons, 4, 0, 1, 2);
   layout->activate();  // the window is made in its size, not brought to it once it is seen
 }
 
 }  // namespace
 
 AlertAnswer QtAlerts::runModal(const Alert& alert) {
+  return show(alert, "");
+}
+
+void QtAlerts::showCommand(const Alert& notice, const std::string& command) {
+  show(notice, command);
+}
+
+AlertAnswer QtAlerts::show(const Alert& alert, const std::string& command) {
   const bool isQuestion = !alert.alternateButton.empty();
   AlertAnswer answer = isQuestion ? AlertAnswer::alternateButton : AlertAnswer::defaultButton;
   const QPointer<QDialog> dialog(new QDialog(parentForAlert()));
@@ -113,16 +149,19 @@ AlertAnswer QtAlerts::runModal(const Alert& alert) {
   dialog->setAccessibleName(QString::fromStdString(alert.title));
   dialog->setAccessibleDescription(QString::fromStdString(alert.message));
 
+  QLineEdit* commandLine =
+      command.empty() ? nullptr : newCommandLine(command, localisation_.localised("Command"), *dialog);
   auto* buttons = new QDialogButtonBox(dialog);
   const std::string defaultText = alert.defaultButton.empty() ? localisation_.localised("OK") : alert.defaultButton;
   QPushButton* defaultButton = addButton(*buttons, defaultText, QDialogButtonBox::AcceptRole, "alertDefaultButton");
   if (isQuestion) addButton(*buttons, alert.alternateButton, QDialogButtonBox::RejectRole, "alertAlternateButton");
+  if (commandLine != nullptr) addCopyButton(*buttons, localisation_.localised("Copy Command"), commandLine);
   QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
   QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, [&] {
     answer = AlertAnswer::defaultButton;
     dialog->accept();
   });
-  layOut(*dialog, alert, buttons);
+  layOut(*dialog, alert, commandLine, buttons);
   defaultButton->setDefault(true);
   defaultButton->setFocus();
 

@@ -7,6 +7,7 @@
 #include <exception>
 
 #include "platform/dbus/post_notification.h"
+#include "platform/linux/administrator.h"
 #include "platform/linux/syslog_log.h"
 #include "platform/terminal/commands/command_list.h"
 #include "platform/terminal/commands/command_ports.h"
@@ -22,6 +23,8 @@ constexpr const char* kExitCodes =
     "  2  wrong usage\n"
     "  3  refused: read-only, not permitted, in use by another run, or no such volume\n"
     "  4  cancelled: Ctrl-C, a signal, or NO\n"
+    "\n"
+    "A volume whose root folder only the administrator may write to: pkexec calvero-cli wipe MOUNT-PATH\n"
     "\n"
     "Without a command, on a terminal, the program asks for the volume and the method.";
 
@@ -108,6 +111,10 @@ ExitCode parseFailure(const CLI::App& app, const CLI::ParseError& error) {
 }
 
 ExitCode runCommand(const CommandLine& line) {
+  if (isStartedByPkexec() && !line.wipe->parsed()) {
+    printError("Only wipe is carried out for pkexec; the other commands need no administrator");
+    return ExitCode::wrongUsage;
+  }
   if (line.volumes->parsed()) return volumesCommand(line.list);
   if (line.methods->parsed()) return methodsCommand(line.list);
   if (line.order->parsed()) return orderCommand(line.placing);
@@ -137,6 +144,7 @@ int main(int argumentCount, char** arguments) {
   // A closed pipe or a limit of file sizes shows in the call that meets it, and must not skip the clean-up.
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
+  if (calvero::isStartedByPkexec()) calvero::dropEnvironmentOfCaller();
   try {
     return static_cast<int>(calvero::run(argumentCount, arguments));
   } catch (const std::exception& error) {

@@ -296,6 +296,18 @@
         <translation>لا يُسمح لك بالكتابة على محرك الأقراص هذا. اختر محرك أقراص آخر أو راجع المسؤول عنه.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>لا يُسمح لك بالكتابة على محرك الأقراص هذا. اختر محرك أقراص آخر أو شغّل هذا الأمر في نافذة طرفية لمسح مساحته الفارغة بصفتك مسؤولاً.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>الأمر</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>نسخ الأمر</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>تقوم عملية أخرى حاليًا بمسح المساحة الفارغة في محرك الأقراص هذا. انتظر حتى تنتهي أو اختر محرك أقراص آخر.</translation>
     </message>

@@ -296,6 +296,18 @@ auf: %@</translation>
         <translation>Sie dürfen nicht auf dieses Laufwerk schreiben. Wählen Sie ein anderes Laufwerk aus oder wenden Sie sich an den zuständigen Administrator.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>Sie dürfen nicht auf dieses Laufwerk schreiben. Wählen Sie ein anderes Laufwerk aus oder führen Sie diesen Befehl in einem Terminal aus, um seinen freien Speicherplatz als Administrator zu löschen.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Befehl kopieren</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Der freie Speicherplatz dieses Laufwerks wird gerade von einem anderen Prozess gelöscht. Warten Sie, bis dieser beendet ist, oder wählen Sie ein anderes Laufwerk aus.</translation>
     </message>

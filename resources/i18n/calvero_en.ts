@@ -296,6 +296,18 @@
         <translation>You are not allowed to write to this drive. Select another drive, or ask its administrator.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Copy Command</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>This drive is being erased by another process. Wait until it has ended, or select another drive.</translation>
     </message>

@@ -296,6 +296,18 @@ en: %@</translation>
         <translation>No tiene permiso para escribir en esta unidad. Seleccione otra unidad o consulte a su administrador.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>No tiene permiso para escribir en esta unidad. Seleccione otra unidad o ejecute este comando en un terminal para borrar su espacio libre como administrador.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Copiar comando</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Otro proceso está borrando el espacio libre de esta unidad. Espere a que termine o seleccione otra unidad.</translation>
     </message>

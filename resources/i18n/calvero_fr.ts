@@ -296,6 +296,18 @@ sur : %@</translation>
         <translation>Vous n’êtes pas autorisé à écrire sur ce lecteur. Sélectionnez un autre lecteur ou adressez-vous à son administrateur.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>Vous n’êtes pas autorisé à écrire sur ce lecteur. Sélectionnez un autre lecteur ou exécutez cette commande dans un terminal pour effacer son espace libre en tant qu’administrateur.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Copier la commande</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>L’espace libre de ce lecteur est en cours d’effacement par un autre processus. Attendez qu’il se termine ou sélectionnez un autre lecteur.</translation>
     </message>

@@ -296,6 +296,18 @@ su: %@</translation>
         <translation>Non sei autorizzato a scrivere su questa unità. Seleziona un’altra unità o rivolgiti al suo amministratore.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>Non sei autorizzato a scrivere su questa unità. Seleziona un’altra unità o esegui questo comando in un terminale per cancellarne lo spazio libero come amministratore.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Copia comando</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Un altro processo sta cancellando lo spazio libero di questa unità. Attendi che termini o seleziona un’altra unità.</translation>
     </message>

@@ -296,6 +296,18 @@
         <translation>このドライブへの書き込み権限がありません。別のドライブを選択するか、ドライブの管理者に問い合わせてください。</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>このドライブへの書き込み権限がありません。別のドライブを選択するか、管理者として空き領域を消去するには、端末でこのコマンドを実行してください。</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>コマンドをコピー</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>このドライブの空き領域は別のプロセスが消去中です。終了するまで待つか、別のドライブを選択してください。</translation>
     </message>

@@ -296,6 +296,18 @@
         <translation>이 드라이브에 쓸 권한이 없습니다. 다른 드라이브를 선택하거나 드라이브 관리자에게 문의하세요.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>이 드라이브에 쓸 권한이 없습니다. 다른 드라이브를 선택하거나, 터미널에서 이 명령을 실행하여 관리자 권한으로 여유 공간을 지우세요.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>명령</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>명령 복사</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>다른 프로세스가 이 드라이브의 여유 공간을 지우고 있습니다. 끝날 때까지 기다리거나 다른 드라이브를 선택하세요.</translation>
     </message>

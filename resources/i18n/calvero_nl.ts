@@ -296,6 +296,18 @@ op: %@</translation>
         <translation>U mag niet naar deze schijf schrijven. Selecteer een andere schijf of neem contact op met de beheerder ervan.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>U mag niet naar deze schijf schrijven. Selecteer een andere schijf of voer deze opdracht uit in een terminal om de vrije ruimte ervan als beheerder te wissen.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Opdracht</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Opdracht kopiëren</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>De vrije ruimte van deze schijf wordt al door een ander proces gewist. Wacht tot dat klaar is of selecteer een andere schijf.</translation>
     </message>

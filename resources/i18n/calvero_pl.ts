@@ -296,6 +296,18 @@ na dysku: %@</translation>
         <translation>Nie masz uprawnień do zapisu na tym dysku. Wybierz inny dysk lub zwróć się do jego administratora.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>Nie masz uprawnień do zapisu na tym dysku. Wybierz inny dysk lub uruchom to polecenie w terminalu, aby wymazać jego wolne miejsce jako administrator.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Polecenie</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Kopiuj polecenie</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Wolne miejsce na tym dysku jest właśnie wymazywane przez inny proces. Zaczekaj na jego zakończenie lub wybierz inny dysk.</translation>
     </message>

@@ -296,6 +296,18 @@ em: %@</translation>
         <translation>Você não tem permissão para gravar nesta unidade. Selecione outra unidade ou fale com o administrador dela.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>Você não tem permissão para gravar nesta unidade. Selecione outra unidade ou execute este comando em um terminal para apagar o espaço livre dela como administrador.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Copiar comando</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Outro processo está apagando o espaço livre desta unidade. Aguarde até que ele termine ou selecione outra unidade.</translation>
     </message>

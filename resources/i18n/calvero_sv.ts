@@ -296,6 +296,18 @@ på: %@</translation>
         <translation>Du har inte behörighet att skriva till den här enheten. Välj en annan enhet eller kontakta enhetens administratör.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>Du har inte behörighet att skriva till den här enheten. Välj en annan enhet eller kör det här kommandot i en terminal för att radera dess lediga utrymme som administratör.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Kommando</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Kopiera kommando</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Det lediga utrymmet på den här enheten raderas redan av en annan process. Vänta tills den är klar eller välj en annan enhet.</translation>
     </message>

@@ -296,6 +296,18 @@ Sürücü: %@</translation>
         <translation>Bu sürücüye yazma izniniz yok. Başka bir sürücü seçin veya sürücünün yöneticisine başvurun.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>Bu sürücüye yazma izniniz yok. Başka bir sürücü seçin veya boş alanını yönetici olarak silmek için bu komutu bir uçbirimde çalıştırın.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Komut</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Komutu kopyala</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Bu sürücünün boş alanı şu anda başka bir işlem tarafından siliniyor. Bitmesini bekleyin veya başka bir sürücü seçin.</translation>
     </message>

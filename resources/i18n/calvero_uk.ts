@@ -296,6 +296,18 @@
         <translation>У вас немає дозволу на запис на цей диск. Виберіть інший диск або зверніться до його адміністратора.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>У вас немає дозволу на запис на цей диск. Виберіть інший диск або виконайте цю команду в терміналі, щоб стерти вільне місце на ньому як адміністратор.</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Команда</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>Копіювати команду</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>Вільне місце на цьому диску зараз стирає інший процес. Зачекайте, доки він завершиться, або виберіть інший диск.</translation>
     </message>

@@ -296,6 +296,18 @@
         <translation>您无权写入此驱动器。请选择其他驱动器，或咨询其管理员。</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</source>
+        <translation>您无权写入此驱动器。请选择其他驱动器，或在终端中运行此命令，以管理员身份擦除其可用空间。</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <translation>复制命令</translation>
+    </message>
+    <message>
         <source>This drive is being erased by another process. Wait until it has ended, or select another drive.</source>
         <translation>另一个进程正在擦除此驱动器的可用空间。请等待其结束，或选择其他驱动器。</translation>
     </message>

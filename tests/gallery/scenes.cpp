@@ -169,6 +169,12 @@ void playRefusals(Stage& stage) {
       stage.click("buttonNext");
       stage.waitForAlerts();
     }
+    stage.administratorCommand("pkexec /usr/bin/calvero-cli wipe /run/media/ann/Data");
+    stage.files().script.failAt(FileCall::checkDirectory, stage.files().script.count(FileCall::checkDirectory) + 1,
+                                ErrorCode::notPermitted);
+    stage.expectAlert("refused-but-for-administrator");
+    stage.click("buttonNext");
+    stage.waitForAlerts();
   });
 }
 

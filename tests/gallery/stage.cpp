@@ -112,6 +112,7 @@ void Stage::wake() const {
 void Stage::play(const std::function<void()>& scenes) {
   ports_ = std::make_unique<WizardPorts>(SuiteServices{tags_, desktop_, desktop_, texts_});
   ports_->popUp.onUndisplayed = nullptr;  // a picture is taken of it, even without a screen
+  ports_->commandForAdministrator = [this](const std::string&) { return administratorCommand_; };
   const Ports ports = ports_->ports();
   app_ = std::make_unique<AppDelegate>(Ports{.alerts = ports.alerts,
                                              .clock = clock_,

@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -80,6 +81,8 @@ class Stage {
   /// `availableBytes` is what the window shows; a few blocks of it can be written.
   void volume(MountedVolume volume);
   void order(const std::string& volumeName);
+  /// What the administrator would type, whatever machine and user this is; without it there is nothing to type.
+  void administratorCommand(const std::string& command) { administratorCommand_ = command; }
   /// Worker threads wait there until `open`.
   Gate& gateBefore(FileCall call, std::size_t nth);
   Gate& newGate();
@@ -136,6 +139,7 @@ class Stage {
   Translations texts_;
   std::deque<Gate> gates_;
   std::deque<ExpectedAlert> expected_;
+  std::optional<std::string> administratorCommand_;
   bool isVisiting_ = false;
   std::string failure_;
   // Made when the volumes are known.

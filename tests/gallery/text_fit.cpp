@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QStyleOptionButton>
 #include <QTextOption>
@@ -100,6 +101,10 @@ QStringList textFaultOf(const QWidget& widget) {
     return textFault(widget, label->text(), room, neededBy(*label, room));
   }
   if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return faultOf(*button);
+  // What is longer than the line is scrolled to, the beginning is seen.
+  if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) {
+    return textFault(widget, line->text(), widget.size(), QSize(0, line->minimumSizeHint().height()));
+  }
   if (const auto* bar = qobject_cast<const QProgressBar*>(&widget)) {
     return bar->isTextVisible() ? textFault(widget, bar->text(), bar->size(), sizeOfLines(widget, bar->text()))
                                 : QStringList();

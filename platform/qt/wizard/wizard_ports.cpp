@@ -5,6 +5,8 @@
 
 #include "app/app_delegate.h"
 #include "methods/method_catalogue.h"
+#include "platform/linux/administrator.h"
+#include "platform/linux/program_search.h"
 #include "wipe/filler_names.h"
 
 namespace calvero {
@@ -22,10 +24,24 @@ bool isWithoutDisplay() {
   return platform == "offscreen" || platform == "minimal";
 }
 
+std::optional<std::string> terminalProgram() {
+  constexpr const char* kName = "calvero-cli";
+  constexpr const char* kInBuildTree = "../terminal/calvero-cli";
+  const auto own = findBeside(ownFolder(), {kName, kInBuildTree});
+  return own ? own : findInPath(kName, searchPath());
+}
+
+std::optional<std::string> terminalCommand(const std::string& mountPath) {
+  const auto program = isAdministrator() ? std::nullopt : terminalProgram();
+  const auto command = program ? administratorCommand(*program, {"wipe", mountPath}, searchPath()) : std::nullopt;
+  return command ? std::optional(shellText(*command)) : std::nullopt;
+}
+
 }  // namespace
 
 WizardPorts::WizardPorts(const SuiteServices& services)
-    : suite(services),
+    : commandForAdministrator(terminalCommand),
+      suite(services),
       log([this](const std::string&) {
         loop.post([this] {
           if (onNotice) onNotice();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/dbus/session_notifications.h"
@@ -42,6 +43,10 @@ class WizardPorts {
   WizardPorts& operator=(const WizardPorts&) = delete;
 
   Ports ports();
+
+  /// The command for a terminal with which the administrator erases the volume mounted there. Nothing where there is
+  /// no such command, or this user is the administrator.
+  std::function<std::optional<std::string>(const std::string& mountPath)> commandForAdministrator;
 
   /// What the log wants whoever ordered the run to know. Event loop thread.
   std::function<void()> onNotice;

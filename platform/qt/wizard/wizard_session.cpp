@@ -1,5 +1,6 @@
 #include "platform/qt/wizard/wizard_session.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <utility>
 
@@ -90,7 +91,18 @@ void WizardSession::inform(const std::string& message) {
   ports_.alerts.runModal({texts.localised("Information"), message, texts.localised("OK"), ""});
 }
 
+bool WizardSession::showsAdministratorCommand() {
+  const auto path = app_.getVolumePath(app_.nameSelectedVolume());
+  const auto command = path ? ports_.commandForAdministrator(*path) : std::nullopt;
+  if (!command) return false;
+  const Localisation& texts = ports_.suite.texts;
+  ports_.alerts.showCommand({texts.localised("Information"), administratorText(texts), texts.localised("OK"), ""},
+                            *command);
+  return true;
+}
+
 bool WizardSession::isRefused(const Error& error) {
+  if (error.code == ErrorCode::notPermitted && showsAdministratorCommand()) return true;
   const auto refusal = refusalText(ports_.suite.texts, error);
   if (refusal) inform(*refusal);
   return refusal.has_value();
@@ -111,7 +123,10 @@ void WizardSession::next() {
 
 void WizardSession::proceed() {
   if (isRefused(app_.checkSelectedVolume())) return;
-  app_.proceed();
+  {
+    const QScopedValueRollback<bool> asking(isAsking_, true);
+    app_.proceed();
+  }
   if (app_.shell().wipingProcessOn != 0) followRun();
 }
 
@@ -122,7 +137,8 @@ void WizardSession::completionOk() {
 
 void WizardSession::quit() {
   const bool isRunning = app_.shell().wipingProcessOn != 0 && app_.currentRun()->outcome == RunOutcome::none;
-  if (isRunning) {
+  // Before a run the controller must know, too: a notice that goes away counts as read.
+  if (isRunning || isAsking_) {
     app_.cancelProcess();
   } else {
     ports_.loop.terminate();

@@ -36,6 +36,8 @@ class WizardSession {
   void quit();
   /// Whether the selected volume cannot be erased, by what a look at it gave; the user has been told then.
   [[nodiscard]] bool isRefused(const Error& error);
+  /// Whether there is a command with which the administrator erases the selected volume; it has been shown then.
+  [[nodiscard]] bool showsAdministratorCommand();
   void inform(const std::string& message);
 
   /// From now on the run is looked at until it has ended.
@@ -58,6 +60,7 @@ class WizardSession {
   bool isFlawed_ = false;      // something of the run could not be done
   bool listsAfterOk_ = false;  // the list of volumes is known to be out of date
   bool isSettling_ = false;
+  bool isAsking_ = false;  // before a run
   std::string selectedName_;
 };
 

@@ -48,6 +48,12 @@ std::optional<std::string> refusalText(const Localisation& texts, const Error& e
   return texts.localised("Unknown Error Occured");
 }
 
+std::string administratorText(const Localisation& texts) {
+  return texts.localised(
+      "You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase "
+      "its free space as administrator.");
+}
+
 std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume) {
   if (outcome != RunOutcome::finished) {
     return filledIn(

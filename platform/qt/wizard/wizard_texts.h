@@ -13,6 +13,9 @@ class Localisation;
 /// Why the volume may not be erased and what to do about it; nothing when it may.
 std::optional<std::string> refusalText(const Localisation& texts, const Error& error);
 
+/// What leads to the command with which the administrator erases a volume that this user may not.
+std::string administratorText(const Localisation& texts);
+
 /// How a run on the volume of that name has ended. A flawed one went to its end, but some writes failed or some space
 /// could not be covered.
 std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume);

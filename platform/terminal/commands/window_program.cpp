@@ -7,21 +7,15 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
-#include <filesystem>
-#include <sstream>
 #include <system_error>
+
+#include "platform/linux/program_search.h"
 
 namespace calvero {
 namespace {
 
 constexpr const char* kWindowProgramName = "calvero";
 constexpr const char* kInBuildTree = "../qt/calvero";
-
-bool isProgram(const std::filesystem::path& path) {
-  std::error_code unknown;
-  return std::filesystem::is_regular_file(path, unknown) && ::access(path.c_str(), X_OK) == 0;
-}
 
 class DetachedProgram : public StartedProgram {
  public:
@@ -97,23 +91,12 @@ class DetachedStart {
 }  // namespace
 
 std::optional<std::string> findWindowProgram(const std::string& ownFolder, const std::string& searchPath) {
-  const std::filesystem::path own(ownFolder);
-  for (const char* place : {kWindowProgramName, kInBuildTree}) {
-    if (isProgram(own / place)) return (own / place).lexically_normal().string();
-  }
-  std::istringstream folders(searchPath);
-  for (std::string folder; std::getline(folders, folder, ':');) {
-    const std::filesystem::path candidate = std::filesystem::path(folder) / kWindowProgramName;
-    if (candidate.is_absolute() && isProgram(candidate)) return candidate.string();
-  }
-  return std::nullopt;
+  const auto own = findBeside(ownFolder, {kWindowProgramName, kInBuildTree});
+  return own ? own : findInPath(kWindowProgramName, searchPath);
 }
 
 std::optional<std::string> findWindowProgram() {
-  std::error_code unknown;
-  const auto own = std::filesystem::read_symlink("/proc/self/exe", unknown).parent_path();
-  const char* searchPath = std::getenv("PATH");
-  return findWindowProgram(own.string(), searchPath == nullptr ? "" : searchPath);
+  return findWindowProgram(ownFolder(), searchPath());
 }
 
 std::unique_ptr<StartedProgram> startDetached(const std::string& path) {

@@ -10,6 +10,7 @@
 #include "platform/terminal/commands/command_ports.h"
 #include "platform/terminal/commands/methods_command.h"
 #include "platform/terminal/commands/wipe_command_report.h"
+#include "platform/terminal/commands/wipe_command_rights.h"
 #include "platform/terminal/commands/wipe_command_session.h"
 #include "platform/terminal/commands/wipe_wizard.h"
 #include "platform/terminal/text.h"
@@ -61,7 +62,8 @@ class WipeCommand {
     const auto volumes = offeredVolumes(app_);
     std::optional<std::size_t> row;
     if (request_.volume || volumes.empty()) {
-      const VolumeChoice choice = chooseVolume(report_.volume, volumes);
+      const VolumeChoice choice =
+          isStartedByPkexec() ? chooseListedVolume(report_.volume, volumes) : chooseVolume(report_.volume, volumes);
       if (!choice.index) return refuse(choice.refusal);
       row = choice.index;
     } else if (!(row = askForVolume(ports_.dialogue, ports_.input, volumes))) {
@@ -72,12 +74,24 @@ class WipeCommand {
     report_.freeBytes = volumes[*row].availableBytes;
     app_.setCurrentSelection(*row);
     const Error error = app_.checkSelectedVolume();
+    if (error.code == ErrorCode::notPermitted) return refuseForWantOfRights(error);
     if (error.failed()) return refuse(refusalLine(report_, error));
     if (!method_ && isPersonThere_ && !request_.yes) {
       method_ = askForMethod(ports_.dialogue, ports_.input);
       if (!method_) return cancel();
     }
     return true;
+  }
+
+  /// Refuses, unless a person has the administrator's program take the place of this one.
+  bool refuseForWantOfRights(const Error& error) {
+    if (isAdministrator()) return refuse(notPermittedToAnyoneLine(report_));
+    const auto command = commandForAdministrator(request_, *report_.mountPath);
+    if (!command) return refuse(refusalLine(report_, error));
+    if (!isPersonThere_ || request_.yes) return refuse(notPermittedLine(report_, *command));
+    const AlertAnswer answer = ports_.alerts.runModal(administratorQuestion(report_, *command));
+    if (answer == AlertAnswer::alternateButton) return cancel();
+    return refuse(command->front() + " cannot be started: " + becomeProgram(*command));
   }
 
   bool enterMethodPage() {
@@ -160,6 +174,9 @@ ExitCode wipeCommand(const WipeRequest& request) {
   }
   if (!isPersonThere && !request.yes) {
     return wrongUsage("Nobody can answer the questions without a terminal; add --yes to erase without being asked");
+  }
+  if (isStartedByPkexec() && !request.volume) {
+    return wrongUsage("As administrator, name the volume to erase; calvero-cli volumes lists them");
   }
   raiseOpenFileLimit();
   return WipeCommand(request, method, isPersonThere).run();

@@ -8,10 +8,6 @@
 namespace calvero {
 namespace {
 
-std::string volumeText(const WipeReport& report) {
-  return printable(report.volume) + " (" + printable(report.mountPath.value_or("not mounted")) + ")";
-}
-
 std::string outcomeWord(const WipeReport& report) {
   switch (report.outcome) {
     case RunOutcome::finished:
@@ -29,8 +25,9 @@ std::string outcomeWord(const WipeReport& report) {
 std::string causeOfFailure(const WipeReport& report, bool isMounted) {
   const std::string volume = volumeText(report);
   if (report.firstFault.code == ErrorCode::readOnly) return volume + " turned read-only during the run";
-  if (report.firstFault.code == ErrorCode::gone) return "the medium of " + volume + " fails or has been pulled";
+  // First, since that is what can be seen of a volume that was taken away, whatever became of its medium.
   if (!isMounted) return volume + " is not mounted any more";
+  if (report.firstFault.code == ErrorCode::gone) return "the medium of " + volume + " fails or has been pulled";
   if (report.faults != 0) return printable(report.firstFault.text());
   return "the filler files on " + volume + " are gone: removed by another program, or the volume was taken away";
 }
@@ -41,6 +38,10 @@ std::string writesFailed(const WipeReport& report) {
 }
 
 }  // namespace
+
+std::string volumeText(const WipeReport& report) {
+  return printable(report.volume) + " (" + printable(report.mountPath.value_or("not mounted")) + ")";
+}
 
 ExitCode exitCodeOf(RunOutcome outcome, std::uint64_t faults) {
   switch (outcome) {

@@ -27,6 +27,9 @@ struct WipeReport {
   ExitCode exitCode = ExitCode::refused;
 };
 
+/// The volume as a person reads it: name and mount path.
+std::string volumeText(const WipeReport& report);
+
 /// A run without an outcome never started: it was declined. Faults spoil a finished run.
 ExitCode exitCodeOf(RunOutcome outcome, std::uint64_t faults);
 

@@ -64,7 +64,7 @@ class WizardFixture : public ::testing::Test {
   void use(const std::function<void()>& user) {
     app = std::make_unique<AppDelegate>(machineOf());
     session = std::make_unique<WizardSession>(ports, *app);
-    ports.loop.startTimer(std::chrono::seconds(30), TimerKind::oneShot, [this] {
+    ports.loop.startTimer(longestUse, TimerKind::oneShot, [this] {
       ADD_FAILURE() << "the program never ended";
       ports.loop.terminate();
     });
@@ -131,6 +131,8 @@ class WizardFixture : public ::testing::Test {
   FakeRandom random;
   FakeSystemNotifications systemNotifications{journal};
   HurriedClock clock;
+  std::chrono::seconds longestUse{30};
+  Clock* usedClock = &clock;
   Files* usedFiles = &files;
   std::string alertText;
   std::set<std::string> mountedOnce;
@@ -142,7 +144,7 @@ class WizardFixture : public ::testing::Test {
   Ports machineOf() {
     const Ports real = ports.ports();
     return {.alerts = real.alerts,
-            .clock = clock,
+            .clock = *usedClock,
             .controls = real.controls,
             .diskLookup = volumes,
             .eventLoop = real.eventLoop,

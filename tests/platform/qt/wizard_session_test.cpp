@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QTableView>
+#include <QTimer>
 #include <csignal>
 
 #include "platform/qt/item_view.h"
@@ -303,6 +304,27 @@ TEST_F(WindowSession, CancelsTheRunAndEndsAtASignal) {
   EXPECT_TRUE(ports.threads.waitForAll(std::chrono::seconds(20)));
   EXPECT_FALSE(files.directoryExists("/media/DATA/.$$XE8AQU"));
   EXPECT_THAT(alertText, Not(HasSubstr("aborted"))) << "nobody may be there to answer";
+}
+
+TEST_F(WindowSession, StartsNoRunWhenASignalEndsTheProgramDuringTheNotice) {
+  mountVolume("DATA");
+  QTimer signalling;
+  QObject::connect(&signalling, &QTimer::timeout, [&] {
+    if (alertText.empty() || QApplication::activeModalWidget() == nullptr) return;  // the question is not answered yet
+    signalling.stop();
+    std::raise(SIGTERM);
+  });
+  use([&] {
+    press("buttonNext");
+    answerNextAlert();  // YES
+    signalling.start(std::chrono::milliseconds(5));
+    press("proceedBtn");
+  });
+  EXPECT_THAT(alertText, HasSubstr("Are you sure"));
+  EXPECT_FALSE(signalling.isActive()) << "the notice was shown";
+  EXPECT_EQ(app->shell().wipingProcessOn, 0);
+  EXPECT_EQ(files.script.count(FileCall::pwrite), 0U);
+  EXPECT_FALSE(files.directoryExists("/media/DATA/.$$XE8AQU"));
 }
 
 TEST_F(WindowSession, LeavesTheWindowHiddenInRemoteMode) {

@@ -75,6 +75,8 @@ TEST(FailureLine, TellsAVolumeThatIsGoneFromFilesThatAreGone) {
   EXPECT_THAT(failureLine(reportOf(RunOutcome::failed), kNotMounted), HasSubstr("is not mounted any more"));
   EXPECT_THAT(failureLine(reportOf(RunOutcome::failed), kMounted), HasSubstr("filler files"));
   EXPECT_THAT(failureLine(reportOf(RunOutcome::failed, 1, ErrorCode::gone), kMounted), HasSubstr("medium"));
+  EXPECT_THAT(failureLine(reportOf(RunOutcome::failed, 1, ErrorCode::gone), kNotMounted),
+              HasSubstr("is not mounted any more"));
 }
 
 TEST(RefusalLine, SaysWhatToDo) {
