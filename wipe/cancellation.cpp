@@ -16,9 +16,11 @@ namespace {
 constexpr Colour kOrange{1.0, 119.0 / 255.0, 52.0 / 255.0, 1.0};
 constexpr std::chrono::seconds kTimeToReadOfTheAbort{3};
 
-/// How long a cancel waits without seeing the clean-up get on. A medium that hangs may never answer, and must not hold
-/// up the window.
-constexpr std::chrono::seconds kTimeForASignOfLife{8};
+/// A cancel waits for as long as it sees the clean-up get on; so many looks in vain end it. A medium that hangs may
+/// never answer, and must not hold up the window. One vain look is not enough: a process that was halted finds its time
+/// over.
+constexpr int kMostVainLooks = 2;
+constexpr std::chrono::seconds kTimeOfALook{4};
 
 }  // namespace
 
@@ -60,11 +62,12 @@ void AppDelegate::removeFilesAside(const RunPtr& run) {
   const auto cleanUpSteps = [&] { return directory ? directory->cleanUpSteps() : 0; };
   cancelWaits_ = true;
   bool isRemoved = false;
-  std::uint64_t steps = 0;
-  do {
-    steps = cleanUpSteps();
-    isRemoved = ports_.eventLoop.serveUntil([removed] { return removed->load(); }, kTimeForASignOfLife);
-  } while (!isRemoved && cleanUpSteps() != steps);
+  int vainLooks = 0;
+  while (!isRemoved && vainLooks < kMostVainLooks) {
+    const std::uint64_t steps = cleanUpSteps();
+    isRemoved = ports_.eventLoop.serveUntil([removed] { return removed->load(); }, kTimeOfALook);
+    vainLooks = cleanUpSteps() == steps ? vainLooks + 1 : 0;
+  }
   cancelWaits_ = false;
   if (!isRemoved) ports_.log.notice("the volume does not answer; the filler files are removed as soon as it does");
 }

@@ -258,7 +258,7 @@ TEST_F(Cancellation, OfAVolumeThatDoesNotAnswerGoesOnWithoutItAndRemovesTheFiles
   layOut();
   world.loop.letLimitsPass();
   world.app().cancelWipe();
-  EXPECT_THAT(world.journal.only({"limit", "alert"}), ElementsAre("limit 8000", kAbortedAlert));
+  EXPECT_THAT(world.journal.only({"limit", "alert"}), ElementsAre("limit 4000", "limit 4000", kAbortedAlert));
   EXPECT_TRUE(world.files.directoryExists(World::kDirectory));
   world.loop.drain();
   EXPECT_EQ(world.controls.page(), 0);
@@ -277,7 +277,22 @@ TEST_F(Cancellation, WaitsOnWhileTheCleanUpGetsOn) {
     if (++limits == 1) directory->releaseSpace();
   });
   world.app().cancelWipe();
-  EXPECT_EQ(limits, 2) << "one more after the sign of life";
+  EXPECT_EQ(limits, 3) << "two more after the sign of life";
+}
+
+TEST_F(Cancellation, WaitsOnWhenAHaltOfTheProgramHasTakenTheTimeOfALook) {
+  layOut();
+  const auto directory = world.app().currentRun()->directory();
+  world.app().fillFilePath(*world.app().currentRun(), std::string(World::kDirectory) + "/.temp0", 32768);
+  directory->removeItem(std::string(World::kDirectory) + "/.temp0");
+  world.loop.letLimitsPass();
+  int limits = 0;
+  world.loop.whenLimitPasses([&] {
+    if (++limits == 2) world.threads.runWaiting("calvero-cancel");
+  });
+  world.app().cancelWipe();
+  EXPECT_EQ(limits, 2);
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
 }
 
 TEST_F(Cancellation, AskedForAgainWhileItWaitsIsCountedAndDoneOnce) {
