@@ -4,6 +4,8 @@
 #include <sys/vfs.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "platform/linux/posix_error.h"
 
 namespace calvero {
@@ -27,8 +29,10 @@ PosixFillerFile::PosixFillerFile(Descriptor descriptor, std::shared_ptr<VolumeWa
 
 WriteResult PosixFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset) {
   if (!watch_->wasThereLately()) return {-1, ErrorCode::gone};
-  const ssize_t written =
-      retryInterrupted([&] { return ::pwrite(descriptor_.get(), data, bytes, static_cast<off_t>(offset)); });
+  const auto write = [&] { return ::pwrite(descriptor_.get(), data, bytes, static_cast<off_t>(offset)); };
+  ssize_t written = retryInterrupted(write);
+  // Full only until the next commit, perhaps.
+  if (written < 0 && errno == ENOSPC && pinsMetadata_ && commit() == ErrorCode::none) written = retryInterrupted(write);
   if (written < 0) return {-1, errorCodeOf(errno)};
   return {written, ErrorCode::none};
 }
@@ -36,6 +40,10 @@ WriteResult PosixFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes,
 ErrorCode PosixFillerFile::fsync() {
   if (retryInterrupted([&] { return ::fsync(descriptor_.get()); }) != 0) return errorCodeOf(errno);
   if (!pinsMetadata_ || ++flushes_ % kFlushesBetweenCommits != 0) return ErrorCode::none;
+  return commit();
+}
+
+ErrorCode PosixFillerFile::commit() const {
   return retryInterrupted([&] { return ::syncfs(descriptor_.get()); }) == 0 ? ErrorCode::none : errorCodeOf(errno);
 }
 

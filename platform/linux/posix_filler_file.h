@@ -16,6 +16,9 @@ class PosixFillerFile : public FillerFile {
   ErrorCode fsync() override;
 
  private:
+  /// Writes out the whole file system.
+  [[nodiscard]] ErrorCode commit() const;
+
   Descriptor descriptor_;
   const std::shared_ptr<VolumeWatch> watch_;
   bool pinsMetadata_ = false;
