@@ -79,14 +79,15 @@ class WizardFixture : public ::testing::Test {
   /// Serves events until `condition` holds.
   [[nodiscard]] bool comesTrue(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 20'000); }
 
-  /// Presses a button of the next alert, and notes what the alert said.
-  void answerNextAlert(const char* button = "alertDefaultButton") {
-    ports.loop.startTimer(std::chrono::milliseconds(5), TimerKind::oneShot, [this, button] {
+  /// Presses a button of the next alert, notes what the alert said, and goes on to do `next`.
+  void answerNextAlert(const char* button = "alertDefaultButton", const std::function<void()>& next = {}) {
+    ports.loop.startTimer(std::chrono::milliseconds(5), TimerKind::oneShot, [this, button, next] {
       QWidget* alert = QApplication::activeModalWidget();
       auto* pressed = alert == nullptr ? nullptr : alert->findChild<QAbstractButton*>(button);
-      if (pressed == nullptr) return answerNextAlert(button);
+      if (pressed == nullptr) return answerNextAlert(button, next);
       for (const QLabel* label : alert->findChildren<QLabel*>()) alertText += textOf(*label) + "\n";
       pressed->click();
+      if (next) next();
     });
   }
 
@@ -99,12 +100,11 @@ class WizardFixture : public ::testing::Test {
   [[nodiscard]] std::string outcome() { return textOf(*completed().findChild<QLabel*>("outcomeText")); }
   [[nodiscard]] int page() { return named<QStackedWidget>("tabView")->currentIndex(); }
   void press(const char* button) { named<QAbstractButton>(button)->click(); }
+  static constexpr const char* kYes = "alertDefaultButton";
   /// From the volume page into a run.
   void startRun() {
     press("buttonNext");
-    answerNextAlert();  // YES
-    ports.loop.startTimer(std::chrono::milliseconds(50), TimerKind::oneShot,
-                          [this] { answerNextAlert(); });  // the notice
+    answerNextAlert(kYes, [this] { answerNextAlert(); });  // then the notice
     press("proceedBtn");
   }
   /// Starts a run whose worker waits in the middle of a write until `release`, or the end of the test.
