@@ -4,7 +4,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t bytes) {
   using namespace calvero::fuzzing;
-  static const testing::ScopedFolder folder;
+  static const calvero::testing::ScopedFolder folder;
   const std::string path = folder.path() + "/infoMaster.plist";
   putBytes(path, textOf(data, bytes));
   for (const auto& [key, value] : calvero::PlistInformationFile().read(path)) {

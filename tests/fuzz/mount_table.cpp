@@ -37,7 +37,7 @@ void readTable(const std::string& path) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t bytes) {
   using namespace calvero::fuzzing;
-  static const testing::ScopedFolder folder;
+  static const calvero::testing::ScopedFolder folder;
   const std::string path = folder.path() + "/mountinfo";
   putBytes(path, textOf(data, bytes));
   readTable(path);
