@@ -62,7 +62,7 @@ Error whyNoFillerDirectory(const std::string& volumePath, const std::string& dir
     if (::fstatvfs(directory.get(), &properties) != 0) return posixError("fstatvfs", directoryPath, errno);
     return (properties.f_flag & ST_RDONLY) != 0 ? posixError("fstatvfs", directoryPath, EROFS) : Error{};
   }
-  const Error writable = place->checkWritable();
+  Error writable = place->checkWritable();
   if (error.code == ErrorCode::notFound) return writable;
   // Whoever may not write there can neither clear away what is in the way nor have a run of his own there.
   const bool isOutOfReach = error.code == ErrorCode::notOurs && writable.code == ErrorCode::notPermitted;
