@@ -59,12 +59,19 @@ class FilesContract : public ::testing::TestWithParam<FilesWorldFactory> {
   ErrorCode removeLeft() { return world_->files().removeFillerDirectory(volume_, directory_).code; }
   [[nodiscard]] std::string pathOf(const std::string& name) const { return directory_ + '/' + name; }
 
+  /// Creates a file and opens it; nothing on failure, which is told.
+  std::unique_ptr<FillerFile> newFile(FillerDirectory& directory, const std::string& name = ".temp0") {
+    EXPECT_FALSE(directory.createEmptyFile(pathOf(name)).failed());
+    Error error;
+    auto file = directory.openForWriting(pathOf(name), error);
+    EXPECT_NE(file, nullptr) << error.text();
+    return file;
+  }
+
   /// Creates the file and writes `kBytes` to it.
   void write(FillerDirectory& directory, const std::string& name) {
-    ASSERT_FALSE(directory.createEmptyFile(pathOf(name)).failed());
-    Error error;
-    const auto file = directory.openForWriting(pathOf(name), error);
-    ASSERT_NE(file, nullptr) << error.text();
+    const auto file = newFile(directory, name);
+    ASSERT_NE(file, nullptr);
     ASSERT_EQ(file->pwrite(kData.data(), kData.size(), 0).bytes, static_cast<std::int64_t>(kData.size()));
   }
 
@@ -220,10 +227,8 @@ TEST_P(FilesContract, OpensOnlyWhatItCreated) {
 TEST_P(FilesContract, WritesWhereItIsTold) {
   const auto directory = create();
   ASSERT_NE(directory, nullptr);
-  ASSERT_FALSE(directory->createEmptyFile(pathOf(".temp0")).failed());
-  Error error;
-  const auto file = directory->openForWriting(pathOf(".temp0"), error);
-  ASSERT_NE(file, nullptr) << error.text();
+  const auto file = newFile(*directory);
+  ASSERT_NE(file, nullptr);
   const auto bytes = static_cast<std::int64_t>(kData.size());
   EXPECT_EQ(file->pwrite(kData.data(), kData.size(), 0).bytes, bytes);
   EXPECT_EQ(file->pwrite(kData.data(), kData.size(), kData.size()).bytes, bytes);
@@ -243,10 +248,8 @@ TEST_P(FilesContract, ReadsTheAttributesOfWhatExistsOnly) {
 TEST_P(FilesContract, WritingNoBufferFails) {
   const auto directory = create();
   ASSERT_NE(directory, nullptr);
-  ASSERT_FALSE(directory->createEmptyFile(pathOf(".temp0")).failed());
-  Error error;
-  const auto file = directory->openForWriting(pathOf(".temp0"), error);
-  ASSERT_NE(file, nullptr) << error.text();
+  const auto file = newFile(*directory);
+  ASSERT_NE(file, nullptr);
   const WriteResult result = file->pwrite(nullptr, kData.size(), 0);
   EXPECT_EQ(result.bytes, -1);
   EXPECT_NE(result.error, ErrorCode::none);
@@ -255,10 +258,8 @@ TEST_P(FilesContract, WritingNoBufferFails) {
 TEST_P(FilesContract, AVolumeThatWasTakenAwayHasNoFilesAndTakesNoWrites) {
   const auto directory = create();
   ASSERT_NE(directory, nullptr);
-  ASSERT_FALSE(directory->createEmptyFile(pathOf(".temp0")).failed());
-  Error error;
-  const auto file = directory->openForWriting(pathOf(".temp0"), error);
-  ASSERT_NE(file, nullptr) << error.text();
+  const auto file = newFile(*directory);
+  ASSERT_NE(file, nullptr);
   world_->takeVolumeAway();
   EXPECT_FALSE(directory->exists(pathOf(".temp0")));
   EXPECT_EQ(directory->createEmptyFile(pathOf(".temp1")).code, ErrorCode::gone);

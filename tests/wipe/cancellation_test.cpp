@@ -26,6 +26,14 @@ class Cancellation : public ::testing::Test {
     world.app().createFile(*world.app().currentRun());
     world.journal.clear();
   }
+  /// One that is written, and removed but for its space.
+  std::shared_ptr<FillerDirectory> holdAFile() {
+    const std::string path = std::string(World::kDirectory) + "/.temp0";
+    const auto directory = world.app().currentRun()->directory();
+    world.app().fillFilePath(*world.app().currentRun(), path, 32768);
+    directory->removeItem(path);
+    return directory;
+  }
 
   World world;
 };
@@ -268,9 +276,7 @@ TEST_F(Cancellation, OfAVolumeThatDoesNotAnswerGoesOnWithoutItAndRemovesTheFiles
 
 TEST_F(Cancellation, WaitsOnWhileTheCleanUpGetsOn) {
   layOut();
-  const auto directory = world.app().currentRun()->directory();
-  world.app().fillFilePath(*world.app().currentRun(), std::string(World::kDirectory) + "/.temp0", 32768);
-  directory->removeItem(std::string(World::kDirectory) + "/.temp0");
+  const auto directory = holdAFile();
   world.loop.letLimitsPass();
   int limits = 0;
   world.loop.whenLimitPasses([&] {
@@ -282,9 +288,7 @@ TEST_F(Cancellation, WaitsOnWhileTheCleanUpGetsOn) {
 
 TEST_F(Cancellation, WaitsOnWhenAHaltOfTheProgramHasTakenTheTimeOfALook) {
   layOut();
-  const auto directory = world.app().currentRun()->directory();
-  world.app().fillFilePath(*world.app().currentRun(), std::string(World::kDirectory) + "/.temp0", 32768);
-  directory->removeItem(std::string(World::kDirectory) + "/.temp0");
+  holdAFile();
   world.loop.letLimitsPass();
   int limits = 0;
   world.loop.whenLimitPasses([&] {
