@@ -8,6 +8,7 @@ import subprocess
 import unittest
 
 from testkit import program, volume
+from testkit.fuse_volume import FuseVolume
 from testkit.program import startedAs
 from testkit.volume import FILLER_BYTES, MEBIBYTE, MEGABYTE, Unavailable, Volume
 
@@ -27,6 +28,14 @@ class SystemTest(unittest.TestCase):
         self.addCleanup(made.close)
         # A folder for everybody, as the root of a stick or a shared disk is.
         os.chmod(made.path, 0o1777)
+        return made
+
+    def makeFuseVolume(self, mebibytes):
+        try:
+            made = FuseVolume(mebibytes * MEBIBYTE)
+        except Unavailable as reason:
+            self.skipTest(str(reason))
+        self.addCleanup(made.close)
         return made
 
     def programFor(self, plainUser):

@@ -5,11 +5,11 @@ import fcntl
 import json
 import os
 import shutil
-import sqlite3
 import tempfile
 from unittest import mock
 
 from case import SystemTest
+from tag_store import Tags
 from testkit import program
 
 STORE_VARIABLE = "CALVERO_TAG_STORE"
@@ -94,25 +94,11 @@ class OrderTest(SystemTest):
         open(self.file("go"), "w").close()
 
     def tags(self):
-        if not os.path.exists(self.store):
-            return {}
-        connection = sqlite3.connect(self.store, timeout=10)
-        try:
-            return dict(connection.execute("SELECT tag, value FROM tags"))
-        finally:
-            connection.close()
+        return Tags(self.store).read()
 
     def setTags(self, **values):
         """As another program that orders runs."""
-        connection = sqlite3.connect(self.store, timeout=10)
-        with connection:
-            connection.execute("PRAGMA application_id = 1330467923")
-            connection.execute("PRAGMA user_version = 1")
-            connection.execute("CREATE TABLE IF NOT EXISTS tags (tag TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL)"
-                               " WITHOUT ROWID")
-            connection.executemany("INSERT INTO tags VALUES (?, ?) ON CONFLICT (tag) DO UPDATE"
-                                   " SET value = excluded.value", values.items())
-        connection.close()
+        Tags(self.store).set(**values)
 
     def setOrder(self, volume, method="3", **values):
         self.setTags(cvrOnline="1", cvrDrive=volume, cvrAlgo=method, **values)

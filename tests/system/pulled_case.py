@@ -8,9 +8,7 @@ import unittest
 
 from case import SystemTest
 from testkit import program, trace
-from testkit.fuse_volume import FuseVolume
 from testkit.trace import Point
-from testkit.volume import MEBIBYTE, Unavailable
 
 PHASE_1, PHASE_2, CLEAN_UP = "phase 1", "phase 2", "clean-up"
 NOTICED_WITHIN_SECONDS = 10
@@ -33,12 +31,7 @@ class PulledTest(SystemTest):
         return self.makeVolume("ext4", _VOLUME_MEBIBYTES)
 
     def makeFuseTarget(self):
-        try:
-            made = FuseVolume(_VOLUME_MEBIBYTES * MEBIBYTE)
-        except Unavailable as reason:
-            self.skipTest(str(reason))
-        self.addCleanup(made.close)
-        return made
+        return self.makeFuseVolume(_VOLUME_MEBIBYTES)
 
     def losses(self, phase):
         """Each way in which a volume goes: its name, a volume, and what takes it away."""

@@ -1,18 +1,17 @@
 """What the tests of ordered runs share: an order with a store, a home and perhaps a session bus of its own, and the
 program that carries it out, on no display unless it is given one."""
 
-import contextlib
 import os
 import pathlib
 import re
 import shutil
 import signal
-import sqlite3
 import subprocess
 import tempfile
 import time
 
 from case import SystemTest
+from tag_store import Tags
 from testkit import program
 from testkit.program import startedAs
 from testkit.volume import FILLER_NAME, protectDisks
@@ -37,28 +36,6 @@ def documentedCancels():
     """The commands that docs/remote.md gives to call a run off, as far as this machine has their programs."""
     commands = re.findall(r"```sh\n(.*?)\n```", _MANUAL.read_text(), re.DOTALL)
     return [command for command in commands if shutil.which(command.split()[0])]
-
-
-class Tags:
-    """The tag store, as another program of the suite uses it."""
-
-    def __init__(self, path):
-        self.path = path
-
-    def read(self):
-        if not os.path.exists(self.path):
-            return {}
-        with contextlib.closing(sqlite3.connect(self.path, timeout=10)) as connection:
-            return dict(connection.execute("SELECT tag, value FROM tags"))
-
-    def set(self, **values):
-        with contextlib.closing(sqlite3.connect(self.path, timeout=10)) as connection, connection:
-            connection.execute("PRAGMA application_id = 1330467923")
-            connection.execute("PRAGMA user_version = 1")
-            connection.execute("CREATE TABLE IF NOT EXISTS tags (tag TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL)"
-                               " WITHOUT ROWID")
-            connection.executemany("INSERT INTO tags VALUES (?, ?) ON CONFLICT (tag) DO UPDATE"
-                                   " SET value = excluded.value", values.items())
 
 
 class Order:

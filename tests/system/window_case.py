@@ -5,8 +5,7 @@ import re
 
 from case import SystemTest, fillerNames
 from testkit import desktop, program
-from testkit.fuse_volume import FuseVolume
-from testkit.volume import MEBIBYTE, Unavailable, protectDisks
+from testkit.volume import protectDisks
 from testkit.window_program import WindowProgram
 
 FAST, RANDOM, NAVSO, DOD, SLOWEST = (re.compile(name) for name in (
@@ -45,14 +44,6 @@ class WindowTest(SystemTest):
         self.addCleanup(window.close)
         window.find("frame", "Calvero", timeout=_START_SECONDS)
         return window
-
-    def makeFuseVolume(self, mebibytes):
-        try:
-            made = FuseVolume(mebibytes * MEBIBYTE)
-        except Unavailable as reason:
-            self.skipTest(str(reason))
-        self.addCleanup(made.close)
-        return made
 
     # The steps of the wizard
 
