@@ -7,7 +7,7 @@ import stat
 import subprocess
 import unittest
 
-from testkit import program, volume
+from testkit import program
 from testkit.fuse_volume import FuseVolume
 from testkit.program import startedAs
 from testkit.volume import FILLER_BYTES, MEBIBYTE, MEGABYTE, Unavailable, Volume

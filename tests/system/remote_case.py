@@ -1,6 +1,7 @@
 """What the tests of ordered runs share: an order with a store, a home and perhaps a session bus of its own, and the
 program that carries it out, on no display unless it is given one."""
 
+import contextlib
 import os
 import pathlib
 import re

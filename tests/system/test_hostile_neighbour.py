@@ -7,7 +7,6 @@ import shutil
 import stat
 import tempfile
 import time
-import unittest
 
 from case import FILL_TIMEOUT_SECONDS, SystemTest, everything
 from neighbour import Neighbour

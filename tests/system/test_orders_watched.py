@@ -1,6 +1,5 @@
 """Orders that are waited for, and those of other programs: what is watched, called off and told."""
 
-import json
 import os
 import re
 import shutil
