@@ -1,15 +1,13 @@
 #include <gtest/gtest.h>
-#include <malloc.h>
 
 #include <algorithm>
 #include <atomic>
-#include <filesystem>
-#include <iterator>
 #include <memory>
 #include <thread>
 #include <vector>
 
 #include "tests/fakes/world.h"
+#include "tests/holdings.h"
 
 namespace calvero {
 namespace {
@@ -17,11 +15,8 @@ namespace {
 using testing::FakeEventLoop;
 using testing::FakeThreads;
 using testing::FileCall;
+using testing::Holdings;
 using testing::World;
-
-std::ptrdiff_t entriesOf(const char* folder) {
-  return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
-}
 
 /// One program that wipes a volume again and again, its threads being real.
 class ManyRuns : public ::testing::Test {
@@ -89,15 +84,13 @@ TEST_F(ManyRuns, AndCancelsLeaveNoRunMemoryDescriptorOrThreadBehind) {
   constexpr std::size_t kPairs = 250;
   constexpr std::size_t kPairsBefore = 25;
   // What grows by design is an observer for each list of volumes; the rest is what the fakes note down themselves.
-  constexpr std::size_t kBytesForAPair = 2048;
+  constexpr std::size_t kBytesForAPair = 1280;
   for (std::size_t pair = 0; pair < kPairsBefore; ++pair) {
     wipe();
     wipeAndCancel();
   }
   runs.clear();
-  const std::size_t bytes = ::mallinfo2().uordblks;
-  const auto descriptors = entriesOf("/proc/self/fd");
-  const auto threads = entriesOf("/proc/self/task");
+  const Holdings before;
   for (std::size_t pair = 0; pair < kPairs; ++pair) {
     wipe();
     wipeAndCancel();
@@ -105,10 +98,11 @@ TEST_F(ManyRuns, AndCancelsLeaveNoRunMemoryDescriptorOrThreadBehind) {
   const auto held = std::count_if(runs.begin(), runs.end(), [](const auto& run) { return !run.expired(); });
   EXPECT_LE(held, 1) << "the controller's own";
   runs.clear();  // even those that are gone keep their memory for as long as somebody may ask
-  EXPECT_EQ(entriesOf("/proc/self/fd"), descriptors);
-  EXPECT_EQ(entriesOf("/proc/self/task"), threads);
-  EXPECT_LT(::mallinfo2().uordblks, bytes + kPairs * kBytesForAPair);
-  RecordProperty("bytesForAPair", static_cast<int>((::mallinfo2().uordblks - bytes) / kPairs));
+  const Holdings after;
+  EXPECT_EQ(after.descriptors, before.descriptors);
+  EXPECT_EQ(after.threads, before.threads);
+  EXPECT_LT(after.bytes, before.bytes + kPairs * kBytesForAPair);
+  RecordProperty("bytesForAPair", static_cast<int>((after.bytes - before.bytes) / kPairs));
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
   EXPECT_EQ(world.files.volume("/media/DATA").disk.takenBlocks(), 0U);
 }

@@ -1,39 +1,22 @@
 #include <gtest/gtest.h>
-#include <malloc.h>
 
 #include <QEventLoop>
 #include <QPixmapCache>
 #include <QTimer>
 #include <atomic>
-#include <filesystem>
-#include <iterator>
 
+#include "tests/holdings.h"
+#include "tests/platform/linux/hasty_clock.h"
 #include "tests/platform/qt/wizard_fixture.h"
 
 namespace calvero::testing {
 namespace {
 
-/// Short pauses, but pauses: without any the clock's thread would flood the event loop.
-class HastyClock : public SteadyClock {
- public:
-  void sleep(Duration duration) override { SteadyClock::sleep(duration / 400); }
-};
-
-std::ptrdiff_t entriesOf(const char* folder) {
-  return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
+/// Without the toolkit's cache of drawn pictures, which has a limit of its own.
+Holdings holdingsNow() {
+  QPixmapCache::clear();
+  return {};
 }
-
-/// What this process holds, but for the toolkit's cache of drawn pictures, which has a limit of its own.
-struct Holdings {
-  Holdings() {
-    QPixmapCache::clear();
-    bytes = ::mallinfo2().uordblks;
-  }
-
-  std::size_t bytes = 0;
-  std::ptrdiff_t descriptors = entriesOf("/proc/self/fd");
-  std::ptrdiff_t threads = entriesOf("/proc/self/task");
-};
 
 class ManyRunsInOneWindow : public WizardFixture {
  protected:
@@ -125,9 +108,9 @@ TEST_F(ManyRunsInOneWindow, LeaveNoMemoryDescriptorOrThreadBehind) {
   use([&] {
     answerAlerts();
     runPairs(kPairsBefore);
-    before = Holdings();
+    before = holdingsNow();
     runPairs(kPairs);
-    after = Holdings();
+    after = holdingsNow();
   });
   EXPECT_EQ(after.descriptors, before.descriptors);
   EXPECT_EQ(after.threads, before.threads);

@@ -9,7 +9,7 @@
 namespace calvero {
 namespace {
 
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 
 TEST(MethodNamed, IsOneBased) {
   EXPECT_EQ(methodNamed("1"), 0);

@@ -7,15 +7,15 @@
 namespace calvero {
 namespace {
 
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 using testing::FakeOrderTags;
 using testing::FakeRuns;
-using testing::HasSubstr;
-using testing::IsEmpty;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using testing::Journal;
-using testing::StartsWith;
+using ::testing::StartsWith;
 
-class CancelOrder : public testing::Test {
+class CancelOrder : public ::testing::Test {
  protected:
   Answer cancel() {
     const auto notify = [this] {
@@ -97,7 +97,7 @@ TEST_F(CancelOrder, NotifiesNobodyWhenTheStoreCannotBeWritten) {
   EXPECT_THAT(journal_.all(), IsEmpty());
 }
 
-class TakeBackRequest : public testing::Test {
+class TakeBackRequest : public ::testing::Test {
  protected:
   TakeBackRequest() {
     tags_.putOrder("stick", "3");
@@ -134,7 +134,7 @@ TEST_F(TakeBackRequest, LeavesTheRequestOfARunThatHasBegunSinceOrOfAnotherOrder)
   EXPECT_EQ(requestAfterwards(), "1");
 }
 
-class CancelWatchTest : public testing::Test {
+class CancelWatchTest : public ::testing::Test {
  protected:
   CancelWatchTest() {
     tags_.putOrder("stick", "3");

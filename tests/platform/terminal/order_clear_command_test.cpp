@@ -7,11 +7,11 @@
 namespace calvero {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 
-class ClearOrder : public testing::Test {
+class ClearOrder : public ::testing::Test {
  protected:
   Answer clear() { return clearOrder(tags_, runs_.lookup()); }
 

@@ -11,20 +11,20 @@
 namespace calvero {
 namespace {
 
-using testing::AllOf;
-using testing::ElementsAre;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
 using testing::FakeOrderTags;
 using testing::FakeProgram;
 using testing::FakeRuns;
-using testing::HasSubstr;
-using testing::IsEmpty;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using testing::Journal;
-using testing::Not;
-using testing::StartsWith;
+using ::testing::Not;
+using ::testing::StartsWith;
 
 constexpr const char* kStored = "store cvrStatus= CVRCANCEL= cvrDrive=stick cvrAlgo=3 cvrOnline=1";
 
-class PlaceOrder : public testing::Test {
+class PlaceOrder : public ::testing::Test {
  protected:
   PlacedOrder place() {
     return placeOrder({"stick", "/media/stick", 2, "/opt/calvero"}, tags_, runs_.lookup(),
@@ -126,7 +126,7 @@ TEST_F(PlaceOrder, StoresNothingWhenTheStoreCannotBeRead) {
   EXPECT_THAT(journal_.all(), IsEmpty());
 }
 
-class OrderWatchTest : public testing::Test {
+class OrderWatchTest : public ::testing::Test {
  protected:
   [[nodiscard]] Answer result() const { return watch_.result("stick (/media/stick)", 2); }
   bool lookAfter(std::chrono::seconds time) { return watch_.hasEnded(time); }

@@ -9,7 +9,7 @@
 namespace calvero {
 namespace {
 
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 
 PendingOrder orderOf(const std::string& volume, const std::string& method, const std::string& status = "") {
   return {.online = "1", .volume = volume, .method = method, .status = status, .cancel = ""};

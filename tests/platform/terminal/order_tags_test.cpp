@@ -16,7 +16,7 @@
 namespace calvero {
 namespace {
 
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 
 const std::vector<TagValue> kWhatever;
 

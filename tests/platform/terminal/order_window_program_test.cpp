@@ -19,7 +19,7 @@
 namespace calvero {
 namespace {
 
-class WindowProgramTest : public testing::Test {
+class WindowProgramTest : public ::testing::Test {
  protected:
   std::string makeProgram(const std::string& place, const std::string& script = "exit 0") {
     const std::filesystem::path path = folder_.path() + "/" + place;

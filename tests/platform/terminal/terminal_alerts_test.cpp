@@ -17,8 +17,8 @@
 namespace calvero {
 namespace {
 
-using testing::EndsWith;
-using testing::HasSubstr;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
 
 const Alert kQuestion{"Alert!!", "Are you sure?", "YES", "NO"};
 const Alert kNotice{"Please!! \n Close all files.", "", "", ""};
@@ -40,7 +40,7 @@ std::array<int, 2> newPipe(int flags) {
 }
 
 /// Input through one pipe, output through another.
-class TerminalAlertsTest : public testing::Test {
+class TerminalAlertsTest : public ::testing::Test {
  protected:
   ~TerminalAlertsTest() override {
     for (const int end : {in_[0], out_[0], out_[1]}) ::close(end);

@@ -8,9 +8,9 @@
 namespace calvero {
 namespace {
 
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::Not;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 MountedVolume volume(const std::string& name, const std::string& mountPath) {
   MountedVolume made;
@@ -19,7 +19,7 @@ MountedVolume volume(const std::string& name, const std::string& mountPath) {
   return made;
 }
 
-class ChooseVolume : public testing::Test {
+class ChooseVolume : public ::testing::Test {
  protected:
   const std::vector<MountedVolume> volumes_{volume("system", "/"), volume("usb stick", "/nowhere/usb"),
                                             volume("photos", "/nowhere/usb/photos")};

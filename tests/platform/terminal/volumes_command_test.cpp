@@ -8,8 +8,8 @@
 namespace calvero {
 namespace {
 
-using testing::HasSubstr;
-using testing::StartsWith;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 MountedVolume stick() {
   return {"stick", "/media/a\nb", "FAT32", 1'500'000, 4'000'000'000, true, true, false};

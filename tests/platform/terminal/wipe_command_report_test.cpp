@@ -8,10 +8,10 @@
 namespace calvero {
 namespace {
 
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using ::testing::StartsWith;
 
 constexpr bool kMounted = true;
 constexpr bool kNotMounted = false;

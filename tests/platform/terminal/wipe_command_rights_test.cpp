@@ -9,9 +9,9 @@
 namespace calvero {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 MountedVolume listedVolume(const std::string& name, const std::string& mountPath) {
   MountedVolume made;
@@ -51,7 +51,7 @@ TEST(NotPermitted, DoesNotSendTheAdministratorToTheAdministrator) {
   EXPECT_THAT(notPermittedToAnyoneLine(refusedReport()), Not(HasSubstr("sudo")));
 }
 
-class ChooseListedVolume : public testing::Test {
+class ChooseListedVolume : public ::testing::Test {
  protected:
   [[nodiscard]] std::optional<std::size_t> chosen(const std::string& given) const {
     const VolumeChoice choice = chooseListedVolume(given, volumes_);
