@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -190,6 +191,8 @@ class AppDelegate {
 
  private:
   enum class PopUpCloses { byItself, withTheApplication };
+  /// What a cancel waits for, and what follows once the filler files are removed.
+  enum class CancelWait : std::uint8_t { none, waiting, endsTheApplication };
 
   void showPopUp(const Colour& colour, const std::string& text, PopUpCloses closes);
   void schedulePopUpCheck();
@@ -214,6 +217,8 @@ class AppDelegate {
   void setPhase(WipeRun& run, const std::string& key);
   /// Removes the filler files on a thread of its own, while events are served.
   void removeFilesAside(const RunPtr& run);
+  /// Returns once they are removed, or the volume has not answered for long. The directory may be null.
+  void waitForRemoval(const std::atomic<bool>& removed, const std::shared_ptr<FillerDirectory>& directory);
   void returnToFirstPageAfterCancel();
   void endCancelledRemoteRun();
 
@@ -241,7 +246,7 @@ class AppDelegate {
   std::size_t selectedTableRow_ = 0;
   RunPtr run_;
   std::vector<std::weak_ptr<WipeRun>> earlierRuns_;  ///< those whose threads may still be on their way out
-  bool cancelWaits_ = false;
+  std::atomic<CancelWait> cancelWait_{CancelWait::none};
 };
 
 }  // namespace calvero

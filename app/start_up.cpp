@@ -94,7 +94,11 @@ void AppDelegate::reportUnknownError(WipeRun& run) {
 void AppDelegate::endApplication(WipeRun& run) {
   run.applicationEnding = 1;
   // A run that a newer one has outlived must not end the program under it.
-  if (run.screen.standing() != RunStanding::outlived) ports_.eventLoop.terminate();
+  if (run.screen.standing() == RunStanding::outlived) return;
+  // A program that ended under a cancel would take its removal of the filler files along, half done.
+  CancelWait wait = CancelWait::waiting;
+  const bool isLeftToTheCancel = cancelWait_.compare_exchange_strong(wait, CancelWait::endsTheApplication);
+  if (!isLeftToTheCancel && wait == CancelWait::none) ports_.eventLoop.terminate();
 }
 
 std::string AppDelegate::localised(const std::string& key) const {

@@ -36,6 +36,9 @@ class EventLoop {
 
   /// Asks the application to end. Any thread; returns at once, and the caller must not go on with its work.
   virtual void terminate() = 0;
+
+  /// Whether the application has been asked to end, so that no wait serves events any more. Any thread.
+  virtual bool isEnding() const = 0;
 };
 
 }  // namespace calvero

@@ -26,15 +26,19 @@ constexpr std::chrono::seconds kTimeOfALook{4};
 
 void AppDelegate::cancelWipe() {
   const RunPtr run = run_;
-  run->terminateThread = 1;
+  // Before the flags, since a worker that sees them may be about to end the application.
+  CancelWait idle = CancelWait::none;
+  const bool isFirst = cancelWait_.compare_exchange_strong(idle, CancelWait::waiting);
+  // In this order: a worker that saw only `terminateThread` would clean up and report as if it had finished.
   run->abortErasing = 1;
+  run->terminateThread = 1;
   run->end(RunOutcome::cancelled);
   ++shell_.cancelNumber;
   Controls& controls = ports_.controls;
   controls.hide(Control::proceedBtn);
   controls.setText(Control::labelPhase, localised("Please wait, finishing current process.."));
   controls.setProgressIndeterminate();
-  if (cancelWaits_) return;  // one is under way already and goes on for both
+  if (!isFirst) return;  // one is under way already and goes on for both
   removeFilesAside(run);
   if (run->applicationEnding != 0) return;
   if (order_.cloudInitiation != 0) {
@@ -49,7 +53,7 @@ void AppDelegate::cancelWipe() {
 void AppDelegate::removeFilesAside(const RunPtr& run) {
   if (!run->volume.table) run->volume = selection();  // a cancel without a run: what an earlier one left is removed
   const auto removed = std::make_shared<std::atomic<bool>>(false);
-  ports_.threads.detach("calvero-cancel", [this, run, removed] {
+  const auto remove = [this, run, removed] {
     try {
       deleteFiles(*run);
     } catch (const std::exception& error) {
@@ -57,19 +61,24 @@ void AppDelegate::removeFilesAside(const RunPtr& run) {
     }
     *removed = true;
     ports_.eventLoop.post([] {});
-  });
-  const auto directory = run->directory();  // the worker lets go of it when it ends
+  };
+  ports_.threads.detach("calvero-cancel", remove);
+  waitForRemoval(*removed, run->directory());  // now, since the worker lets go of the directory when it ends
+  if (cancelWait_.exchange(CancelWait::none) == CancelWait::endsTheApplication) ports_.eventLoop.terminate();
+}
+
+void AppDelegate::waitForRemoval(const std::atomic<bool>& removed, const std::shared_ptr<FillerDirectory>& directory) {
   const auto cleanUpSteps = [&] { return directory ? directory->cleanUpSteps() : 0; };
-  cancelWaits_ = true;
   bool isRemoved = false;
   int vainLooks = 0;
-  while (!isRemoved && vainLooks < kMostVainLooks) {
+  while (!isRemoved && vainLooks < kMostVainLooks && !ports_.eventLoop.isEnding()) {
     const std::uint64_t steps = cleanUpSteps();
-    isRemoved = ports_.eventLoop.serveUntil([removed] { return removed->load(); }, kTimeOfALook);
+    isRemoved = ports_.eventLoop.serveUntil([&removed] { return removed.load(); }, kTimeOfALook);
     vainLooks = cleanUpSteps() == steps ? vainLooks + 1 : 0;
   }
-  cancelWaits_ = false;
-  if (!isRemoved) ports_.log.notice("the volume does not answer; the filler files are removed as soon as it does");
+  if (!isRemoved && !ports_.eventLoop.isEnding()) {
+    ports_.log.notice("the volume does not answer; the filler files are removed as soon as it does");
+  }
 }
 
 void AppDelegate::returnToFirstPageAfterCancel() {

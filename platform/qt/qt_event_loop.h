@@ -30,6 +30,7 @@ class QtEventLoop : public EventLoop {
   bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) override;
   /// Ends `run` and every loop nested in it, modal dialogs included. From now on no task and no timer is run.
   void terminate() override;
+  bool isEnding() const override { return isEnding_; }
 
   /// Serves events until `terminate`; returns the exit status. What is still waiting is destroyed then, and what is
   /// posted later at once, so that nobody waits for it.

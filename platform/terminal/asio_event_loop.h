@@ -25,6 +25,7 @@ class AsioEventLoop : public EventLoop {
   void stopTimer(TimerId timer) override;
   bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) override;
   void terminate() override;
+  bool isEnding() const override { return context_.stopped(); }
 
   /// Serves events until `terminate`. What is posted from then on is destroyed without being run, so that nobody waits
   /// for it.

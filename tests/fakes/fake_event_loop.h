@@ -109,6 +109,7 @@ class FakeEventLoop : public EventLoop {
   void whenLimitPasses(std::function<void()> hook) { whenLimitPasses_ = std::move(hook); }
 
   bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) override {
+    if (isEnding()) return done();
     if (limitsPass_) {
       journal_.add("limit " + std::to_string(limit.count()));
       if (whenLimitPasses_) whenLimitPasses_();
@@ -116,6 +117,7 @@ class FakeEventLoop : public EventLoop {
     }
     if (whenServed_) whenServed_();
     while (!done()) {
+      if (isEnding()) return false;
       if (drain() != 0) continue;
       if (posts_ == Posts::queued) {
         waitForPosts(1);  // whoever makes it done posts something afterwards
@@ -130,6 +132,7 @@ class FakeEventLoop : public EventLoop {
     ++terminations_;
     journal_.add("terminate");
   }
+  [[nodiscard]] bool isEnding() const override { return terminations_ != 0; }
 
  private:
   std::function<void()> takeFirst() {

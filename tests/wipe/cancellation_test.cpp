@@ -299,6 +299,39 @@ TEST_F(Cancellation, WaitsOnWhenAHaltOfTheProgramHasTakenTheTimeOfALook) {
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
 }
 
+TEST_F(Cancellation, OfARunThatEndsTheApplicationMeanwhileEndsItOnceTheFilesAreRemoved) {
+  layOut();
+  const RunPtr run = world.app().currentRun();
+  world.loop.whenServed([&] {
+    world.app().startPhaseTwo(*run);
+    world.app().cancelWipe();
+    EXPECT_EQ(world.loop.terminations(), 0);
+    world.threads.runWaiting("calvero-cancel");
+  });
+  world.app().cancelWipe();
+  EXPECT_THAT(world.journal.only({"alert", "removeDirectory", "notice", "terminate"}),
+              ElementsAre(kUnknownErrorAlert, "removeDirectory /media/DATA/.$$XE8AQU", "terminate"));
+}
+
+TEST_F(Cancellation, OfAVolumeThatDoesNotAnswerEndsTheApplicationForARunThatAsksForItMeanwhile) {
+  layOut();
+  world.loop.letLimitsPass();
+  int limits = 0;
+  world.loop.whenLimitPasses([&] {
+    if (++limits == 1) world.app().startPhaseTwo(*world.app().currentRun());
+  });
+  world.app().cancelWipe();
+  EXPECT_EQ(limits, 2);
+  EXPECT_THAT(world.journal.only({"alert", "terminate"}), ElementsAre(kUnknownErrorAlert, "terminate"));
+}
+
+TEST_F(Cancellation, BlamesNoVolumeWhenTheProgramEndsMeanwhile) {
+  layOut();
+  world.loop.whenServed([this] { world.loop.terminate(); });
+  world.app().cancelWipe();
+  EXPECT_THAT(world.journal.only({"notice"}), IsEmpty());
+}
+
 TEST_F(Cancellation, AskedForAgainWhileItWaitsIsCountedAndDoneOnce) {
   layOut();
   world.loop.whenServed([this] {

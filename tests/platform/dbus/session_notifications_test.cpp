@@ -233,6 +233,7 @@ class HoldingLoop : public EventLoop {
   void stopTimer(TimerId) override {}
   bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds) override { return done(); }
   void terminate() override {}
+  [[nodiscard]] bool isEnding() const override { return false; }
 
   bool waitForATask() {
     std::unique_lock lock(mutex_);
