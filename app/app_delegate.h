@@ -3,6 +3,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <string>
@@ -210,6 +211,8 @@ class AppDelegate {
   void outliveEarlierRuns();
   void startRunThreads();
   void runWorker(WipeRun& run);
+  /// Ends a run that the program itself cannot go on with.
+  void giveUp(WipeRun& run, const std::exception& error);
   void makeFillerDirectory(WipeRun& run, const std::string& volumePath);
   void finishRun(WipeRun& run);
   void removeFillerDirectory(WipeRun& run, const std::string& volumePath);

@@ -1,5 +1,6 @@
 #include <chrono>
 #include <exception>
+#include <system_error>
 
 #include "app/app_delegate.h"
 #include "ports/alerts.h"
@@ -62,7 +63,11 @@ void AppDelegate::removeFilesAside(const RunPtr& run) {
     *removed = true;
     ports_.eventLoop.post([] {});
   };
-  ports_.threads.detach("calvero-cancel", remove);
+  try {
+    ports_.threads.detach("calvero-cancel", remove);
+  } catch (const std::system_error&) {
+    remove();  // a window that stands still is better than files that stay
+  }
   waitForRemoval(*removed, run->directory());  // now, since the worker lets go of the directory when it ends
   if (cancelWait_.exchange(CancelWait::none) == CancelWait::endsTheApplication) ports_.eventLoop.terminate();
 }

@@ -1,5 +1,6 @@
 #include <chrono>
 #include <exception>
+#include <system_error>
 #include <utility>
 
 #include "app/app_delegate.h"
@@ -55,8 +56,23 @@ void AppDelegate::proceed() {
 }
 
 void AppDelegate::startRunThreads() {
-  ports_.threads.detach("calvero-wipe", [this, run = run_] { runWorker(*run); });
-  ports_.threads.detach("calvero-clock", [this, run = run_] { setElapsedTime(*run); });
+  const RunPtr run = run_;
+  try {
+    ports_.threads.detach("calvero-wipe", [this, run] { runWorker(*run); });
+    ports_.threads.detach("calvero-clock", [this, run] { setElapsedTime(*run); });
+  } catch (const std::system_error& error) {
+    // The worker may have been started. It takes no further step, and leaves nothing.
+    run->applicationEnding = 1;
+    run->abortErasing = 1;
+    run->terminateThread = 1;
+    giveUp(*run, error);
+  }
+}
+
+void AppDelegate::giveUp(WipeRun& run, const std::exception& error) {
+  ports_.log.line(std::string("run: ") + error.what());
+  run.noteFault({ErrorCode::other, "carry out", "the run", error.what()});
+  reportUnknownError(run);
 }
 
 void AppDelegate::replaceRun() {
@@ -83,8 +99,7 @@ void AppDelegate::runWorker(WipeRun& run) {
   try {
     startPhaseOne(run);
   } catch (const std::exception& error) {
-    ports_.log.line(std::string("run: ") + error.what());
-    reportUnknownError(run);
+    giveUp(run, error);
   }
   // A run that did not get to its own clean-up, or was stopped before it, has nobody else to remove its directory.
   if (const auto directory = run.directory(); directory && run.outcome != RunOutcome::finished) directory->remove();

@@ -332,6 +332,14 @@ TEST_F(Cancellation, BlamesNoVolumeWhenTheProgramEndsMeanwhile) {
   EXPECT_THAT(world.journal.only({"notice"}), IsEmpty());
 }
 
+TEST_F(Cancellation, RemovesTheFilesItselfWhenTheSystemHasNoThreadToSpare) {
+  layOut();
+  world.threads.refuse("calvero-cancel");
+  world.app().cancelWipe();
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+  EXPECT_THAT(world.journal.only({"alert", "notice"}), ElementsAre(kAbortedAlert));
+}
+
 TEST_F(Cancellation, AskedForAgainWhileItWaitsIsCountedAndDoneOnce) {
   layOut();
   world.loop.whenServed([this] {

@@ -138,6 +138,38 @@ TEST_F(Proceed, NamesItsThreadsWithinTheSystemsLimit) {
   }
 }
 
+TEST_F(Proceed, EndsTheApplicationWhenTheSystemHasNoThreadForTheWorker) {
+  reachMethodPage();
+  world.threads.refuse("calvero-wipe");
+  world.proceed();
+  EXPECT_THAT(world.journal.only({"alert", "terminate"}),
+              ElementsAre(kQuestion, kNotice, kUnknownErrorAlert, "terminate"));
+  EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::failed);
+  EXPECT_EQ(world.app().currentRun()->firstFault().text(), "carry out the run: Resource temporarily unavailable");
+  EXPECT_EQ(world.threads.started(), 0U);
+}
+
+TEST_F(Proceed, EndsTheApplicationAndLeavesNothingWhenTheSystemHasNoThreadForTheClock) {
+  reachMethodPage();
+  world.threads.refuse("calvero-clock");
+  world.alerts.whileShown([this] {
+    if (world.threads.started() == 1) world.runWorker();
+  });
+  world.proceed();
+  EXPECT_THAT(world.journal.only({"alert", "terminate", "createDirectory"}),
+              ElementsAre(kQuestion, kNotice, kUnknownErrorAlert, "terminate"));
+  EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::failed);
+  EXPECT_EQ(world.app().currentRun()->workerEnded, 1);
+}
+
+TEST_F(Proceed, ReportsAnOrderThatTheSystemHasNoThreadFor) {
+  world.order("DATA", "1");
+  world.threads.refuse("calvero-wipe");
+  world.launch();
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_EQ(world.loop.terminations(), 1);
+}
+
 class Phases : public Proceed {
  protected:
   /// A run of three files that writes no patterns, for the steps around the writing.
@@ -211,7 +243,7 @@ TEST_F(Phases, ApplyTheOrderedMethodBeforeAnyFileIsMade) {
 }
 
 TEST_F(Phases, LeaveTheChosenMethodAloneInOrdinaryMode) {
-  const RunPtr run = startWithoutPasses();
+  startWithoutPasses();
   world.runWorker();
   EXPECT_THAT(world.journal.only({"turnOn", "turnOff"}), IsEmpty());
 }
