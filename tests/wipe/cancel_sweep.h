@@ -32,7 +32,9 @@ class CancelSweep : public ::testing::Test {
     EXPECT_EQ(swept.volume().disk.coveredBlocks(), swept.volume().disk.blockCount());
     EXPECT_EQ(swept.volume().writesWithoutName, 0U);
     EXPECT_TRUE(swept.leftNothing());
-    return swept.points.calls(CallPoints::kWorker);
+    Steps calls = swept.points.calls(CallPoints::kWorker);
+    EXPECT_FALSE(calls.empty());
+    return calls;
   }
 
   /// Goes through a whole run on the event loop's thread; the calls of it.
