@@ -217,6 +217,8 @@ class AppDelegate {
   void finishRun(WipeRun& run);
   void removeFillerDirectory(WipeRun& run, const std::string& volumePath);
   void reportRemoteCompletion(WipeRun& run);
+  /// For the log: a face that is looked at tells a person in its own words.
+  void logFaults(const WipeRun& run) const;
   void setPhase(WipeRun& run, const std::string& key);
   /// Removes the filler files on a thread of its own, while events are served.
   void removeFilesAside(const RunPtr& run);

@@ -83,7 +83,14 @@ void AppDelegate::removeFillerDirectory(WipeRun& run, const std::string& volumeP
   run.end(RunOutcome::failed);
 }
 
+void AppDelegate::logFaults(const WipeRun& run) const {
+  if (run.faults() == 0) return;
+  ports_.log.line(std::to_string(run.faults()) +
+                  " failures, so that deleted data may remain readable; the first one: " + run.firstFault().text());
+}
+
 void AppDelegate::reportRemoteCompletion(WipeRun& run) {
+  logFaults(run);
   popUp(kGreen, withVolumeName(localised("Your admin successfuly completed\n Calvero on:%@"), order_.CDriveName));
   ports_.clock.sleep(kTimeToReadOfTheEnd);
   authentication_.SetValueForTag(kTagStatus, kStatusFinished);

@@ -183,6 +183,7 @@ void AppDelegate::finishRun(WipeRun& run) {
   deleteFiles(run);
   if (run.applicationEnding != 0 || run.abortErasing != 0) return;
   run.end(RunOutcome::finished);
+  logFaults(run);
   run.screen.apply([size = getFormattedStringForSize(volumeOf(run).freeBytes())](Controls& controls) {
     controls.setText(Control::tfCleanedSize, size);
     controls.setProgress(100);

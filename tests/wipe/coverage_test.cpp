@@ -74,6 +74,20 @@ TEST_F(Coverage, NotesAFaultWhenTheFileSystemTurnsReadOnlyUnderTheRun) {
   EXPECT_EQ(run->firstFault().path, "/media/DATA/.$$XE8AQU/.temp0");
 }
 
+TEST_F(Coverage, IsToldToBeFlawedInTheLogWhenARunWithFaultsFinishes) {
+  for (const bool isOrdered : {false, true}) {
+    World other;
+    other.volume("DATA", 1'000'000);
+    if (isOrdered) other.order("DATA", "1");
+    other.files.script.failAt(FileCall::fsync, 1, ErrorCode::other);
+    isOrdered ? other.launch() : other.start();
+    other.runWorker();
+    EXPECT_THAT(other.journal.only({"log 1"}),
+                ElementsAre("log 1 failures, so that deleted data may remain readable; the first one: fsync "
+                            "/media/DATA/.$$XE8AQU/.temp0: as the test has it"));
+  }
+}
+
 TEST_F(Coverage, EndsARunOnAFileSystemThatTurnedReadOnlyAsFailedWithoutTheCompletionWindow) {
   start(2'000'000);
   world.files.script.before(FileCall::pwrite, 3, [this] { world.files.volume("/media/DATA").readOnly = true; });
