@@ -20,37 +20,6 @@ enum class ErrorCode {
   other,
 };
 
-/// What the code means, in words for the log and for a person.
-constexpr const char* describe(ErrorCode code) {
-  switch (code) {
-    case ErrorCode::none:
-      return "no error";
-    case ErrorCode::notFound:
-      return "not found";
-    case ErrorCode::exists:
-      return "the name is taken";
-    case ErrorCode::notPermitted:
-      return "not permitted";
-    case ErrorCode::readOnly:
-      return "the file system is read-only";
-    case ErrorCode::full:
-      return "no space left";
-    case ErrorCode::busy:
-      return "another run is wiping the volume";
-    case ErrorCode::notOurs:
-      return "not made by a run";
-    case ErrorCode::gone:
-      return "the medium fails or has been pulled";
-    case ErrorCode::noHandles:
-      return "too many open files";
-    case ErrorCode::closed:
-      return "the run has ended";
-    case ErrorCode::other:
-      break;
-  }
-  return "input or output failed";
-}
-
 /// An adapter's report: what was tried, on what, and how it failed. Never thrown; never shown as it is, only the
 /// controller decides what a person reads. Default-constructed it means success and owns no memory.
 struct Error {

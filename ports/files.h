@@ -17,7 +17,7 @@ constexpr std::string_view kFillerFilePrefix = ".temp";
 /// Result of one positioned write.
 struct WriteResult {
   std::int64_t bytes = 0;  ///< bytes written, or -1
-  ErrorCode error = ErrorCode::none;
+  Error error;             ///< why nothing was written
 };
 
 /// One filler file, open for writing. Used by one thread; destroying it closes it.
@@ -35,7 +35,7 @@ class FillerFile {
 
   /// Flushes the file to the medium and waits for it. A failure is reported once and never retried: the kernel has
   /// dropped the data by then.
-  virtual ErrorCode fsync() = 0;
+  virtual Error fsync() = 0;
 };
 
 /// The filler directory of one run, locked against every other run for as long as this object lives.

@@ -9,22 +9,17 @@ namespace calvero {
 namespace {
 
 // A full volume is how a fill ends, and a cancel takes the file away under the writer: neither is a fault.
-bool isFault(const WipeRun& run, ErrorCode code) {
-  return code != ErrorCode::none && code != ErrorCode::full && !run.stopRequested();
-}
-
-void noteIfFault(WipeRun& run, ErrorCode code, const char* operation, const std::string& path) {
-  if (isFault(run, code)) run.noteFault({code, operation, path, describe(code)});
+void noteIfFault(WipeRun& run, const Error& error) {
+  if (error.failed() && error.code != ErrorCode::full && !run.stopRequested()) run.noteFault(error);
 }
 
 /// Writes all passes of one block after the other, each flushed to the medium before the next.
 class BlockWriter {
  public:
-  BlockWriter(const AppDelegate& app, WipeRun& run, FillerFile& file, const std::string& path)
+  BlockWriter(const AppDelegate& app, WipeRun& run, FillerFile& file)
       : app_(app),
         run_(run),
         file_(file),
-        path_(path),
         passes_(app.methodChoice().numPassSelected),
         method_(app.methodChoice().eraseMethodSelected) {}
 
@@ -53,11 +48,11 @@ class BlockWriter {
   std::int64_t writePass(std::int32_t pass, std::uint64_t offset, std::int32_t bytes) {
     current_ = app_.fillBuffer(current_, kBlockBytes, method_, pass);
     const WriteResult result = file_.pwrite(current_, static_cast<std::size_t>(bytes), offset);
-    noteIfFault(run_, result.error, "pwrite", path_);
-    const ErrorCode flushed = file_.fsync();
-    noteIfFault(run_, flushed, "fsync", path_);
+    noteIfFault(run_, result.error);
+    const Error flushed = file_.fsync();
+    noteIfFault(run_, flushed);
     if (result.bytes > 0) run_.counters.bytesWritten += static_cast<std::uint64_t>(result.bytes);
-    return flushed == ErrorCode::none ? result.bytes : std::min<std::int64_t>(result.bytes, 0);
+    return flushed.failed() ? std::min<std::int64_t>(result.bytes, 0) : result.bytes;
   }
 
   void noteCovered(std::int64_t bytes) {
@@ -67,7 +62,6 @@ class BlockWriter {
   const AppDelegate& app_;
   WipeRun& run_;
   FillerFile& file_;
-  const std::string& path_;
   const std::int32_t passes_;  // read once for each file
   const std::int32_t method_;
   const std::uint8_t* current_ = nullptr;
@@ -91,7 +85,7 @@ void AppDelegate::fillFilePath(WipeRun& run, const std::string& path, std::uint6
   }
 
   const BlockPlan plan = blockPlan(size);
-  BlockWriter writer(*this, run, *file, path);
+  BlockWriter writer(*this, run, *file);
   std::uint64_t block = 0;
   bool writeFailed = false;
   while (block + 1 < static_cast<std::uint64_t>(plan.count) && run.abortErasing != 1 && !writeFailed) {

@@ -88,7 +88,7 @@ std::unique_ptr<FillerFile> PosixFillerDirectory::openForWriting(const std::stri
     found = descriptor.isOpen() ? identityOf(descriptor.get()) : std::nullopt;
     reason = found ? whyNoFillerFile(*found, directory_.identity) : nullptr;
   }
-  if (found && reason == nullptr) return std::make_unique<PosixFillerFile>(std::move(descriptor), watch_);
+  if (found && reason == nullptr) return std::make_unique<PosixFillerFile>(std::move(descriptor), path, watch_);
   error = found ? Error{ErrorCode::notOurs, "openat", path, reason} : posixError("openat", path, errno);
   return nullptr;
 }

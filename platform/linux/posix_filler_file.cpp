@@ -24,27 +24,31 @@ bool isOnBtrfs(int descriptor) {
 
 }  // namespace
 
-PosixFillerFile::PosixFillerFile(Descriptor descriptor, std::shared_ptr<VolumeWatch> watch)
-    : descriptor_(std::move(descriptor)), watch_(std::move(watch)), pinsMetadata_(isOnBtrfs(descriptor_.get())) {}
+PosixFillerFile::PosixFillerFile(Descriptor descriptor, std::string path, std::shared_ptr<VolumeWatch> watch)
+    : descriptor_(std::move(descriptor)),
+      path_(std::move(path)),
+      watch_(std::move(watch)),
+      pinsMetadata_(isOnBtrfs(descriptor_.get())) {}
 
 WriteResult PosixFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset) {
-  if (!watch_->wasThereLately()) return {-1, ErrorCode::gone};
+  if (!watch_->wasThereLately()) return {-1, {ErrorCode::gone, "pwrite", path_, "the volume was taken away"}};
   const auto write = [&] { return ::pwrite(descriptor_.get(), data, bytes, static_cast<off_t>(offset)); };
   ssize_t written = retryInterrupted(write);
   // Full only until the next commit, perhaps.
-  if (written < 0 && errno == ENOSPC && pinsMetadata_ && commit() == ErrorCode::none) written = retryInterrupted(write);
-  if (written < 0) return {-1, errorCodeOf(errno)};
-  return {written, ErrorCode::none};
+  if (written < 0 && errno == ENOSPC && pinsMetadata_ && !commit().failed()) written = retryInterrupted(write);
+  if (written < 0) return {-1, posixError("pwrite", path_, errno)};
+  return {written, {}};
 }
 
-ErrorCode PosixFillerFile::fsync() {
-  if (retryInterrupted([&] { return ::fsync(descriptor_.get()); }) != 0) return errorCodeOf(errno);
-  if (!pinsMetadata_ || ++flushes_ % kFlushesBetweenCommits != 0) return ErrorCode::none;
+Error PosixFillerFile::fsync() {
+  if (retryInterrupted([&] { return ::fsync(descriptor_.get()); }) != 0) return posixError("fsync", path_, errno);
+  if (!pinsMetadata_ || ++flushes_ % kFlushesBetweenCommits != 0) return {};
   return commit();
 }
 
-ErrorCode PosixFillerFile::commit() const {
-  return retryInterrupted([&] { return ::syncfs(descriptor_.get()); }) == 0 ? ErrorCode::none : errorCodeOf(errno);
+Error PosixFillerFile::commit() const {
+  if (retryInterrupted([&] { return ::syncfs(descriptor_.get()); }) == 0) return {};
+  return posixError("syncfs", path_, errno);
 }
 
 }  // namespace calvero

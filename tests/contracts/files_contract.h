@@ -233,7 +233,7 @@ TEST_P(FilesContract, WritesWhereItIsTold) {
   EXPECT_EQ(file->pwrite(kData.data(), kData.size(), 0).bytes, bytes);
   EXPECT_EQ(file->pwrite(kData.data(), kData.size(), kData.size()).bytes, bytes);
   EXPECT_EQ(file->pwrite(kData.data(), kData.size(), 0).bytes, bytes);
-  EXPECT_EQ(file->fsync(), ErrorCode::none);
+  EXPECT_FALSE(file->fsync().failed());
   EXPECT_EQ(world_->bytesOf(pathOf(".temp0")), 2 * kData.size());
 }
 
@@ -252,7 +252,10 @@ TEST_P(FilesContract, WritingNoBufferFails) {
   ASSERT_NE(file, nullptr);
   const WriteResult result = file->pwrite(nullptr, kData.size(), 0);
   EXPECT_EQ(result.bytes, -1);
-  EXPECT_NE(result.error, ErrorCode::none);
+  EXPECT_TRUE(result.error.failed());
+  EXPECT_EQ(result.error.operation, "pwrite");
+  EXPECT_EQ(result.error.path, pathOf(".temp0"));
+  EXPECT_FALSE(result.error.detail.empty());
 }
 
 TEST_P(FilesContract, AVolumeThatWasTakenAwayHasNoFilesAndTakesNoWrites) {
@@ -265,7 +268,7 @@ TEST_P(FilesContract, AVolumeThatWasTakenAwayHasNoFilesAndTakesNoWrites) {
   EXPECT_EQ(directory->createEmptyFile(pathOf(".temp1")).code, ErrorCode::gone);
   const WriteResult result = file->pwrite(kData.data(), kData.size(), 0);
   EXPECT_EQ(result.bytes, -1);
-  EXPECT_EQ(result.error, ErrorCode::gone);
+  EXPECT_EQ(result.error.code, ErrorCode::gone);
 }
 
 TEST_P(FilesContract, RemovesAFilesNameOnce) {

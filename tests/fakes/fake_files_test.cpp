@@ -34,7 +34,7 @@ TEST_F(FakeFilesDisk, StoresWhatFitsAndThenIsFull) {
   EXPECT_EQ(write("a", 12).bytes, 10 * 4096);
   const WriteResult second = write("b", 1);
   EXPECT_EQ(second.bytes, -1);
-  EXPECT_EQ(second.error, ErrorCode::full);
+  EXPECT_EQ(second.error.code, ErrorCode::full);
   EXPECT_EQ(disk->coveredBlocks(), 10U);
 }
 

@@ -77,7 +77,7 @@ std::unique_ptr<FillerFile> FakeFillerDirectory::openForWriting(const std::strin
   }
   error = fakeError(code, "openat", path);
   if (error.failed()) return nullptr;
-  return std::make_unique<FakeFillerFile>(files_, found->second.body, lastPart(path));
+  return std::make_unique<FakeFillerFile>(files_, found->second.body, path);
 }
 
 Error FakeFillerDirectory::removeItem(const std::string& path) {
@@ -128,6 +128,9 @@ Error FakeFillerDirectory::remove() {
   return fakeError(files_.forget(*directory_) ? ErrorCode::none : ErrorCode::notFound, "unlinkat", directory_->path);
 }
 
+FakeFillerFile::FakeFillerFile(FakeFiles& files, std::shared_ptr<FakeFileBody> body, std::string path)
+    : files_(files), body_(std::move(body)), path_(std::move(path)), name_(lastPart(path_)) {}
+
 FakeFillerFile::~FakeFillerFile() {
   files_.journal_.add("close " + name_);
 }
@@ -137,10 +140,11 @@ WriteResult FakeFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes, 
   files_.journal_.add("pwrite " + name_ + ' ' + std::to_string(bytes) + '@' + std::to_string(offset) + ' ' +
                       patternOf(data, bytes));
   if (body_->names == 0) ++body_->volume->writesWithoutName;
-  if (verdict.code != ErrorCode::none) return {-1, verdict.code};
-  if (data == nullptr) return {-1, ErrorCode::other};
-  if (!body_->volume->mounted) return {-1, ErrorCode::gone};
-  if (body_->volume->readOnly) return {-1, ErrorCode::readOnly};
+  ErrorCode code = verdict.code;
+  if (code == ErrorCode::none && data == nullptr) code = ErrorCode::other;
+  if (code == ErrorCode::none && !body_->volume->mounted) code = ErrorCode::gone;
+  if (code == ErrorCode::none && body_->volume->readOnly) code = ErrorCode::readOnly;
+  if (code != ErrorCode::none) return {-1, fakeError(code, "pwrite", path_)};
   return store(data, std::min(bytes, verdict.shortBytes.value_or(bytes)), offset);
 }
 
@@ -155,19 +159,19 @@ WriteResult FakeFillerFile::store(const std::uint8_t* data, std::size_t bytes, s
     room += FakeDisk::kBlockBytes;
   }
   const std::uint64_t stored = std::min(end, room);
-  if (stored <= offset && bytes > 0) return {-1, ErrorCode::full};
+  if (stored <= offset && bytes > 0) return {-1, fakeError(ErrorCode::full, "pwrite", path_)};
   for (std::uint64_t at = offset; at < stored; at += FakeDisk::kBlockBytes) {
     disk.write(body_->blocks[static_cast<std::size_t>(at / FakeDisk::kBlockBytes)], data[at - offset]);
   }
   body_->bytes = std::max(body_->bytes, stored);
-  return {static_cast<std::int64_t>(stored - offset), ErrorCode::none};
+  return {static_cast<std::int64_t>(stored - offset), {}};
 }
 
-ErrorCode FakeFillerFile::fsync() {
+Error FakeFillerFile::fsync() {
   const ErrorCode scripted = files_.script.arrive(FileCall::fsync).code;
   files_.journal_.add("fsync " + name_);
-  if (scripted != ErrorCode::none) return scripted;
-  return body_->volume->mounted ? ErrorCode::none : ErrorCode::gone;
+  const ErrorCode medium = body_->volume->mounted ? ErrorCode::none : ErrorCode::gone;
+  return fakeError(scripted != ErrorCode::none ? scripted : medium, "fsync", path_);
 }
 
 }  // namespace calvero::testing

@@ -44,19 +44,19 @@ class FakeFillerDirectory : public FillerDirectory {
 /// One open file in memory.
 class FakeFillerFile : public FillerFile {
  public:
-  FakeFillerFile(FakeFiles& files, std::shared_ptr<FakeFileBody> body, std::string name)
-      : files_(files), body_(std::move(body)), name_(std::move(name)) {}
+  FakeFillerFile(FakeFiles& files, std::shared_ptr<FakeFileBody> body, std::string path);
   ~FakeFillerFile() override;
 
   WriteResult pwrite(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset) override;
-  ErrorCode fsync() override;
+  Error fsync() override;
 
  private:
   [[nodiscard]] WriteResult store(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset);
 
   FakeFiles& files_;
   std::shared_ptr<FakeFileBody> body_;
-  std::string name_;
+  const std::string path_;
+  const std::string name_;
 };
 
 }  // namespace calvero::testing

@@ -169,7 +169,14 @@ TEST_F(FillerWriter, WritesOnAfterAFailedFlush) {
   world.app().fillFilePath(*run, run->filePathsArray[0], 3 * 32768);
   EXPECT_EQ(writes(), 3U);
   EXPECT_EQ(flushes(), 3U) << "a failed flush is not repeated";
-  EXPECT_EQ(run->firstFault().operation, "fsync");
+  EXPECT_EQ(run->firstFault().text(), "fsync " + run->filePathsArray[0] + ": as the test has it");
+}
+
+TEST_F(FillerWriter, KeepsTheSystemsWordsAboutAFailedWrite) {
+  prepare();
+  world.files.script.failAt(FileCall::pwrite, 1, ErrorCode::other);
+  world.app().fillFilePath(*run, run->filePathsArray[0], 3 * 32768);
+  EXPECT_EQ(run->firstFault().text(), "pwrite " + run->filePathsArray[0] + ": as the test has it");
 }
 
 TEST_F(FillerWriter, WritesNothingIntoAFileThatCannotBeOpened) {

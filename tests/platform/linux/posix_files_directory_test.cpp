@@ -5,6 +5,7 @@
 #include <sys/sysmacros.h>
 
 #include <array>
+#include <csignal>
 #include <vector>
 
 #include "platform/linux/descriptor.h"
@@ -286,7 +287,24 @@ TEST_F(FillerSpace, RunsOutAsAFullVolume) {
   const std::array<std::uint8_t, 4096> data{};
   const WriteResult result = file->pwrite(data.data(), data.size(), 0);
   EXPECT_EQ(result.bytes, -1);
-  EXPECT_EQ(result.error, ErrorCode::full);
+  EXPECT_EQ(result.error.code, ErrorCode::full);
+}
+
+TEST_F(FillerSpace, ThatTheLimitOfFileSizesForbidsIsToldInTheSystemsWords) {
+  ASSERT_FALSE(run_->createEmptyFile(pathOf(".temp0")).failed());
+  Error error;
+  const auto file = run_->openForWriting(pathOf(".temp0"), error);
+  ASSERT_NE(file, nullptr) << error.text();
+  rlimit before = {};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+  const auto signalBefore = std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit none = {.rlim_cur = 0, .rlim_max = before.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
+  const std::array<std::uint8_t, 4096> data{};
+  const WriteResult result = file->pwrite(data.data(), data.size(), 0);
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+  std::signal(SIGXFSZ, signalBefore);
+  EXPECT_EQ(result.error.text(), "pwrite " + pathOf(".temp0") + ": File too large");
 }
 
 TEST_F(FillerSpace, OfAVolumeThatTurnsReadOnlyIsReportedAsSuch) {

@@ -27,7 +27,7 @@ class RightsOnAVolume : public FillerVolume {
       return files.checkFillerDirectory(volume, volume + "/.filler").code == expected;
     });
     ASSERT_TRUE(holds.has_value());
-    EXPECT_TRUE(*holds) << describe(expected);
+    EXPECT_TRUE(*holds) << "error code " << static_cast<int>(expected);
   }
 
   static constexpr uid_t kRoot = 0;

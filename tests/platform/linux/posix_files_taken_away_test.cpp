@@ -27,21 +27,21 @@ class VolumeTakenAway : public FillerVolume {
     ASSERT_FALSE(directoryOfRun_->createEmptyFile(pathOf(".temp0")).failed());
     file_ = directoryOfRun_->openForWriting(pathOf(".temp0"), error_);
     ASSERT_NE(file_, nullptr) << error_.text();
-    ASSERT_EQ(write().error, ErrorCode::none);
+    ASSERT_FALSE(write().error.failed());
   }
   WriteResult write() { return file_->pwrite(block_.data(), block_.size(), 0); }
   /// The first write that fails; nothing but writes is done meanwhile.
   WriteResult writeUntilItFails() {
     const auto end = steady_clock::now() + kLongestWait;
     WriteResult result = write();
-    while (result.error == ErrorCode::none && steady_clock::now() < end) result = write();
+    while (!result.error.failed() && steady_clock::now() < end) result = write();
     return result;
   }
   void expectLost() {
     const WriteResult failed = writeUntilItFails();
     EXPECT_EQ(failed.bytes, -1);
-    EXPECT_EQ(failed.error, ErrorCode::gone);
-    EXPECT_EQ(write().error, ErrorCode::gone);
+    EXPECT_EQ(failed.error.code, ErrorCode::gone);
+    EXPECT_EQ(write().error.code, ErrorCode::gone);
     EXPECT_FALSE(directoryOfRun_->exists(pathOf(".temp0")));
     EXPECT_EQ(directoryOfRun_->createEmptyFile(pathOf(".temp1")).code, ErrorCode::gone);
   }
@@ -79,7 +79,7 @@ TEST_F(VolumeTakenAway, StaysLostWhenItComesBack) {
   fs::rename(volume_, top_ + "/elsewhere");
   EXPECT_FALSE(directoryOfRun_->exists(pathOf(".temp0")));
   fs::rename(top_ + "/elsewhere", volume_);
-  EXPECT_EQ(write().error, ErrorCode::gone);
+  EXPECT_EQ(write().error.code, ErrorCode::gone);
   EXPECT_FALSE(directoryOfRun_->exists(pathOf(".temp0")));
 }
 

@@ -96,7 +96,7 @@ class FillerVolume : public ::testing::Test {
     }
     const std::string data(bytes, 'x');
     const WriteResult result = file->pwrite(reinterpret_cast<const std::uint8_t*>(data.data()), bytes, 0);
-    EXPECT_EQ(file->fsync(), ErrorCode::none);
+    EXPECT_FALSE(file->fsync().failed());
     return result.bytes < 0 ? 0 : static_cast<std::uint64_t>(result.bytes);
   }
 
