@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <map>
 #include <system_error>
 
 #include "platform/linux/block_device.h"
@@ -13,20 +14,12 @@
 #include "platform/linux/patient_question.h"
 #include "platform/linux/posix_error.h"
 #include "platform/linux/reserved_blocks.h"
+#include "platform/linux/volume_label.h"
 #include "platform/linux/volume_names.h"
 
 namespace calvero {
 
 namespace {
-
-bool isFolder(const std::string& path) {
-  PatientQuestion<bool> question([path] {
-    struct statx found = {};
-    const int result = ::statx(AT_FDCWD, path.c_str(), AT_NO_AUTOMOUNT | AT_SYMLINK_NOFOLLOW, STATX_TYPE, &found);
-    return result == 0 && S_ISDIR(found.stx_mode);
-  });
-  return question.answerBy(endOfPatience()).value_or(true);  // a volume that hangs is listed all the same
-}
 
 std::optional<struct statvfs> statisticsOf(const std::string& mountPath) {
   struct statvfs statistics = {};
@@ -38,6 +31,70 @@ bool answersForItsLabel(const Mount& mount) {
   return !isNetworkFileSystem(mount) && !isFuse(mount) && !isAutomount(mount);
 }
 
+/// Tells folders from files, however many of them hang: all that may be asked about are asked at once.
+class FolderQuestions {
+ public:
+  explicit FolderQuestions(const std::vector<Mount>& table) {
+    for (const Mount& mount : table) {
+      if (mayBeAFile(mount)) questions_.try_emplace(mount.path, [path = mount.path] { return leadsToFolder(path); });
+    }
+  }
+
+  /// A volume that does not answer is listed all the same.
+  bool isFolder(const std::string& path, std::chrono::steady_clock::time_point deadline) {
+    return questions_.at(path).answerBy(deadline).value_or(true);
+  }
+
+ private:
+  static bool leadsToFolder(const std::string& path) {
+    struct statx found = {};
+    const int result = ::statx(AT_FDCWD, path.c_str(), AT_NO_AUTOMOUNT | AT_SYMLINK_NOFOLLOW, STATX_TYPE, &found);
+    return result == 0 && S_ISDIR(found.stx_mode);
+  }
+
+  std::map<std::string, PatientQuestion<bool>> questions_;
+};
+
+std::vector<Mount> mountsOfVolumes(const std::string& tablePath, std::chrono::steady_clock::time_point deadline) {
+  const std::vector<Mount> table = readMountTable(tablePath);
+  FolderQuestions folders(table);
+  return volumesAmong(table, [&](const std::string& path) { return folders.isFolder(path, deadline); });
+}
+
+struct Description {
+  std::optional<std::string> label;
+  DeviceContent content;
+};
+
+struct Figures {
+  std::uint64_t availableBytes = 0;
+  std::uint64_t totalBytes = 0;
+  bool readOnly = false;
+};
+
+dev_t deviceBehind(const Mount& mount) {
+  return isNetworkFileSystem(mount) ? 0 : blockDeviceOf(mount.device, mount.source);
+}
+
+Description descriptionOf(const Mount& mount) {
+  Description description;
+  if (answersForItsLabel(mount)) description.label = labelFromFileSystem(mount.path);
+  const dev_t device = deviceBehind(mount);
+  const bool isAsked = device != 0 && (!description.label || isDescribedByDevice(mount));
+  if (isAsked) description.content = contentOf(device, mount.source);
+  return description;
+}
+
+Figures figuresOf(const Mount& mount, const LinuxVolumes::ReclaimableBytes& reclaimableBytes) {
+  if (isAutomount(mount)) return {};  // asking it would mount something
+  const auto statistics = statisticsOf(mount.path);
+  if (!statistics) return {};
+  const std::uint64_t freeBlocks = mayUseReservedBlocks(mount) ? statistics->f_bfree : statistics->f_bavail;
+  return {.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes(mount.path),
+          .totalBytes = statistics->f_blocks * statistics->f_frsize,
+          .readOnly = mount.emergencyReadOnly || (statistics->f_flag & ST_RDONLY) != 0};
+}
+
 std::string nameOf(const std::string& label, const std::string& mountPath) {
   for (const std::string& name : {nameFromLabel(label), printableLabel(lastPartOf(mountPath))}) {
     if (!name.empty()) return name;
@@ -45,33 +102,50 @@ std::string nameOf(const std::string& label, const std::string& mountPath) {
   return printableLabel(mountPath);
 }
 
+/// What is asked of one volume. The label and the figures apart: a volume may answer for one of them only.
+struct VolumeQuestions {
+  PatientQuestion<Description> description;
+  PatientQuestion<Figures> figures;
+};
+
 }  // namespace
 
 LinuxVolumes::LinuxVolumes(ReclaimableBytes reclaimableBytes, KernelPaths paths)
     : reclaimableBytes_(std::move(reclaimableBytes)), paths_(std::move(paths)) {}
 
 std::vector<MountedVolume> LinuxVolumes::mountedVolumes() {
+  const auto deadline = endOfPatience();
   std::vector<Mount> mounts;
   try {
-    mounts = volumesAmong(readMountTable(paths_.mountTable), isFolder);
+    // Half of the time, so that the volumes are left some to answer in.
+    mounts = mountsOfVolumes(paths_.mountTable, deadline - kPatience / 2);
   } catch (const std::system_error&) {
     return {};
   }
-  std::vector<PatientQuestion<Figures>> figures;
+  std::vector<VolumeQuestions> questions;
   for (const Mount& mount : mounts) {
-    figures.emplace_back([mount, reclaimable = reclaimableBytes_] { return figuresOf(mount, reclaimable); });
+    questions.push_back(
+        {PatientQuestion<Description>([mount] { return descriptionOf(mount); }),
+         PatientQuestion<Figures>([mount, bytes = reclaimableBytes_] { return figuresOf(mount, bytes); })});
   }
-  const auto deadline = endOfPatience();
   std::vector<MountedVolume> volumes;
   std::vector<Identity> identities;
   std::vector<std::string> labels;
   for (std::size_t i = 0; i < mounts.size(); ++i) {
-    identities.push_back(identityOf(mounts[i]));
-    labels.push_back(describe(mounts[i], volumes.emplace_back()));
-    const Figures answered = figures[i].answerBy(deadline).value_or(Figures{});
-    volumes[i].availableBytes = answered.availableBytes;
-    volumes[i].totalBytes = answered.totalBytes;
-    volumes[i].readOnly = answered.readOnly;
+    const Mount& mount = mounts[i];
+    const dev_t device = deviceBehind(mount);
+    const Description told = questions[i].description.answerBy(deadline).value_or(Description{});
+    const Figures figures = questions[i].figures.answerBy(deadline).value_or(Figures{});
+    identities.push_back(identityOf(mount));
+    labels.push_back(nameOf(told.label.value_or(told.content.label), mount.path));
+    volumes.push_back({.name = {},
+                       .mountPath = mount.path,
+                       .formatDescription = formatDescription(mount, told.content),
+                       .availableBytes = figures.availableBytes,
+                       .totalBytes = figures.totalBytes,
+                       .removable = device != 0 && isOnRemovableDisk(device, paths_.sysfs),
+                       .local = !isNetworkFileSystem(mount),
+                       .readOnly = figures.readOnly});
   }
   giveNames(volumes, std::move(identities), labels);
   return volumes;
@@ -119,30 +193,6 @@ std::optional<LinuxVolumes::Identity> LinuxVolumes::listedUnder(const std::strin
   const auto found = std::find_if(named_.begin(), named_.end(), [&](const Named& named) { return named.name == name; });
   if (found == named_.end()) return {};
   return found->identity;
-}
-
-std::string LinuxVolumes::describe(const Mount& mount, MountedVolume& volume) {
-  std::optional<std::string> label;
-  if (answersForItsLabel(mount)) label = labelFromFileSystem(mount.path);
-  const dev_t device = isNetworkFileSystem(mount) ? 0 : blockDeviceOf(mount.device, mount.source);
-  DeviceContent content;
-  if (device != 0 && (!label || isDescribedByDevice(mount))) content = deviceContents_.of(device, mount.source);
-
-  volume.mountPath = mount.path;
-  volume.formatDescription = formatDescription(mount, content);
-  volume.local = !isNetworkFileSystem(mount);
-  volume.removable = device != 0 && isOnRemovableDisk(device, paths_.sysfs);
-  return nameOf(label.value_or(content.label), mount.path);
-}
-
-LinuxVolumes::Figures LinuxVolumes::figuresOf(const Mount& mount, const ReclaimableBytes& reclaimableBytes) {
-  if (isAutomount(mount)) return {};  // asking it would mount something
-  const auto statistics = statisticsOf(mount.path);
-  if (!statistics) return {};
-  const std::uint64_t freeBlocks = mayUseReservedBlocks(mount) ? statistics->f_bfree : statistics->f_bavail;
-  return {.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes(mount.path),
-          .totalBytes = statistics->f_blocks * statistics->f_frsize,
-          .readOnly = mount.emergencyReadOnly || (statistics->f_flag & ST_RDONLY) != 0};
 }
 
 void LinuxVolumes::giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "platform/linux/mount_table.h"
-#include "platform/linux/volume_label.h"
 #include "ports/disk_lookup.h"
 #include "ports/mounted_volumes.h"
 
@@ -31,8 +30,9 @@ class LinuxVolumes : public MountedVolumes, public DiskLookup {
 
   explicit LinuxVolumes(ReclaimableBytes reclaimableBytes, KernelPaths paths = {});
 
-  /// Empty when the mount table cannot be read. Automounters are not looked into: that would mount something. Volumes
-  /// that do not answer within two seconds are listed without their figures.
+  /// Empty when the mount table cannot be read. Automounters are not looked into: that would mount something. All
+  /// volumes are asked at the same time, and what does not answer within two seconds is listed without its figures and
+  /// named by its folder.
   std::vector<MountedVolume> mountedVolumes() override;
   std::optional<bool> isReadOnly(const std::string& mountPath) override;
 
@@ -58,22 +58,12 @@ class LinuxVolumes : public MountedVolumes, public DiskLookup {
   [[nodiscard]] Identity identityOf(const Mount& mount) const;
   [[nodiscard]] bool isEmergencyReadOnly(const std::string& mountPath) const;
   [[nodiscard]] std::optional<Identity> listedUnder(const std::string& name);
-  struct Figures {
-    std::uint64_t availableBytes = 0;
-    std::uint64_t totalBytes = 0;
-    bool readOnly = false;
-  };
 
-  /// Fills in all but the name and the figures, and gives the label that the volume would be named by.
-  std::string describe(const Mount& mount, MountedVolume& volume);
-  /// Waits for the volume, however long it takes to answer.
-  static Figures figuresOf(const Mount& mount, const ReclaimableBytes& reclaimableBytes);
   void giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,
                  const std::vector<std::string>& labels);
 
   const ReclaimableBytes reclaimableBytes_;
   const KernelPaths paths_;
-  DeviceContents deviceContents_;
   std::mutex mutex_;  // guards what is named; not held while the system is asked
   std::vector<Named> named_;
 };

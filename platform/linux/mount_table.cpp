@@ -66,8 +66,7 @@ bool showsAll(const Mount& mount) {
 
 bool countsAsVolume(const Mount& mount, const MountTree& tree, const IsFolder& isFolder) {
   if (!storesUserFiles(mount) || !tree.isReachable(mount)) return false;
-  // Containers get single files of their host as mounts (/etc/hosts): a part of a file system need not be a folder.
-  return showsAll(mount) || isNetworkFileSystem(mount) || isFolder(mount.path);
+  return !mayBeAFile(mount) || isFolder(mount.path);
 }
 
 }  // namespace
@@ -115,6 +114,10 @@ const Mount* MountTree::nearest(const Children& children, const std::string& pat
     if (found == nullptr || child->path.size() <= found->path.size()) found = child;
   }
   return found;
+}
+
+bool mayBeAFile(const Mount& mount) {
+  return storesUserFiles(mount) && !showsAll(mount) && !isNetworkFileSystem(mount);
 }
 
 std::vector<Mount> volumesAmong(const std::vector<Mount>& table, const IsFolder& isFolder) {

@@ -49,7 +49,11 @@ class MountTree {
   std::unordered_map<int, Children> childrenOf_;
 };
 
-/// Tells a folder from a file; asked only about mounts that show a part of a local file system.
+/// Whether a mount that counts may show a file and no folder. Containers get single files of their host as mounts
+/// (/etc/hosts): a part of a file system need not be a folder.
+bool mayBeAFile(const Mount& mount);
+
+/// Tells a folder from a file; asked at most once about each path, and only where `mayBeAFile`.
 using IsFolder = std::function<bool(const std::string& path)>;
 
 /// The entries that count as volumes: those that store a user's files and can be reached, each file system once, in

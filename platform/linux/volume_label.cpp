@@ -10,6 +10,7 @@
 
 #include <array>
 #include <charconv>
+#include <memory>
 
 #include "platform/linux/descriptor.h"
 
@@ -17,6 +18,9 @@ namespace calvero {
 
 namespace {
 
+struct UdevDeleter {
+  void operator()(udev* context) const { udev_unref(context); }
+};
 struct UdevDeviceDeleter {
   void operator()(udev_device* device) const { udev_device_unref(device); }
 };
@@ -44,6 +48,18 @@ std::optional<char> escapedByte(std::string_view text) {
   const auto end = std::from_chars(digits.begin(), digits.end(), byte, 16).ptr;
   if (end != digits.end()) return {};
   return static_cast<char>(byte);
+}
+
+DeviceContent fromDatabase(dev_t device) {
+  // A context of its own for each question: the library's are not to be shared between threads.
+  const std::unique_ptr<udev, UdevDeleter> context(udev_new());
+  if (!context) return {};
+  const std::unique_ptr<udev_device, UdevDeviceDeleter> entry(udev_device_new_from_devnum(context.get(), 'b', device));
+  if (!entry) return {};
+  const std::string encoded = property(entry.get(), "ID_FS_LABEL_ENC");
+  return {.label = encoded.empty() ? property(entry.get(), "ID_FS_LABEL") : decodeUdevText(encoded),
+          .type = property(entry.get(), "ID_FS_TYPE"),
+          .version = property(entry.get(), "ID_FS_VERSION")};
 }
 
 bool isDevice(int descriptor, dev_t device) {
@@ -81,27 +97,9 @@ dev_t blockDeviceOf(dev_t device, const std::string& source) {
   return S_ISBLK(status.st_mode) ? status.st_rdev : 0;
 }
 
-DeviceContents::DeviceContents() = default;
-DeviceContents::~DeviceContents() = default;
-
-void DeviceContents::UdevDeleter::operator()(udev* context) const {
-  udev_unref(context);
-}
-
-DeviceContent DeviceContents::of(dev_t device, const std::string& devicePath) {
+DeviceContent contentOf(dev_t device, const std::string& devicePath) {
   DeviceContent content = fromDatabase(device);
   return content.type.empty() ? fromDeviceItself(device, devicePath) : content;
-}
-
-DeviceContent DeviceContents::fromDatabase(dev_t device) {
-  if (!udev_) udev_.reset(udev_new());
-  if (!udev_) return {};
-  const std::unique_ptr<udev_device, UdevDeviceDeleter> entry(udev_device_new_from_devnum(udev_.get(), 'b', device));
-  if (!entry) return {};
-  const std::string encoded = property(entry.get(), "ID_FS_LABEL_ENC");
-  return {.label = encoded.empty() ? property(entry.get(), "ID_FS_LABEL") : decodeUdevText(encoded),
-          .type = property(entry.get(), "ID_FS_TYPE"),
-          .version = property(entry.get(), "ID_FS_VERSION")};
 }
 
 std::string decodeUdevText(std::string_view encoded) {

@@ -2,12 +2,9 @@
 
 #include <sys/types.h>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-
-struct udev;
 
 namespace calvero {
 
@@ -27,23 +24,7 @@ std::optional<std::string> labelFromFileSystem(const std::string& mountPath);
 dev_t blockDeviceOf(dev_t device, const std::string& source);
 
 /// Asks udev's database and, where that knows nothing, the device itself if it may be opened.
-class DeviceContents {
- public:
-  DeviceContents();
-  ~DeviceContents();
-  DeviceContents(const DeviceContents&) = delete;
-  DeviceContents& operator=(const DeviceContents&) = delete;
-
-  DeviceContent of(dev_t device, const std::string& devicePath);
-
- private:
-  DeviceContent fromDatabase(dev_t device);
-
-  struct UdevDeleter {
-    void operator()(udev* context) const;
-  };
-  std::unique_ptr<udev, UdevDeleter> udev_;  // made by the first question
-};
+DeviceContent contentOf(dev_t device, const std::string& devicePath);
 
 /// Decodes the database's escapes: "\x20" is one byte. Anything else stays as it is.
 std::string decodeUdevText(std::string_view encoded);

@@ -3,11 +3,14 @@
 #include <sys/sysmacros.h>
 
 #include <algorithm>
+#include <chrono>
 #include <fstream>
 
 #include "platform/linux/linux_volumes.h"
+#include "platform/linux/patient_question.h"
 #include "platform/linux/posix_files.h"
 #include "platform/linux/volume_label.h"
+#include "tests/platform/linux/mount_table_file.h"
 #include "tests/platform/linux/mounted_images.h"
 
 namespace calvero::testing {
@@ -213,6 +216,35 @@ TEST_F(RealVolumes, AreAllListedAlthoughOneHangs) {
   EXPECT_EQ(PosixFiles().checkFillerDirectory(hanging, hanging + "/.filler").code, ErrorCode::gone);
 }
 
+TEST_F(RealVolumes, AreAllListedInTimeAlthoughSeveralHangWhateverTheyAreAsked) {
+  const Descriptor service(::open("/dev/fuse", O_RDWR | O_CLOEXEC));
+  if (!service.isOpen()) GTEST_SKIP() << "there is no /dev/fuse";
+  const std::string options = "fd=" + std::to_string(service.get()) + ",rootmode=40000,user_id=0,group_id=0";
+  const std::string hanging = makeFolder("hanging");
+  ASSERT_TRUE(mount("nobody@nowhere:", hanging, "fuse.sshfs", 0, options));
+  const std::string alive = makeFolder("alive");
+  const auto device = mountExt4(alive, "CALVEROALIVE");
+  ASSERT_TRUE(device);
+  // One is asked for its label; two show a part of a file system, so that they are asked for what they are, too.
+  const std::string aliveNumber =
+      std::to_string(major(device->number())) + ':' + std::to_string(minor(device->number()));
+  const MountTableFile table("40 1 8:101 / " + hanging + " rw - ext4 /dev/none rw\n" +  //
+                             "41 40 8:102 /part " + hanging + "/first rw - ext4 /dev/none rw\n" + "42 40 8:103 /part " +
+                             hanging + "/second rw - ext4 /dev/none rw\n" +  //
+                             "43 1 " + aliveNumber + " / " + alive + " rw - ext4 " + device->path() + " rw\n");
+  LinuxVolumes volumes([](const std::string&) { return std::uint64_t{0}; }, {.mountTable = table.path()});
+  const auto before = std::chrono::steady_clock::now();
+  const auto listed = volumes.mountedVolumes();
+  EXPECT_LT(std::chrono::steady_clock::now() - before, kPatience + std::chrono::seconds(1));
+  ASSERT_EQ(listed.size(), 4U);
+  EXPECT_EQ(listed[0].name, "hanging");
+  EXPECT_EQ(listed[1].name, "first");
+  EXPECT_EQ(listed[2].name, "second");
+  EXPECT_EQ(listed[2].totalBytes, 0U);
+  EXPECT_EQ(listed[3].name, "CALVEROALIVE");
+  EXPECT_NE(listed[3].totalBytes, 0U);
+}
+
 TEST_F(RealVolumes, BehindAFuseDriverAreDescribedByTheirDevice) {
   const std::string path = makeFolder("volume");
   const auto device = makeFileSystem({"mkfs.ntfs", "-Q", "-F", "-L", "Windows"}, 16);
@@ -227,7 +259,7 @@ TEST_F(RealVolumes, BehindAFuseDriverAreDescribedByTheirDevice) {
 TEST_F(RealVolumes, CanBeToldByTheirDeviceAlone) {
   const auto device = makeFileSystem({"mkfs.vfat", "-F", "16", "-n", "STICK"}, 16);
   ASSERT_TRUE(device);
-  const DeviceContent content = DeviceContents().of(device->number(), device->path());
+  const DeviceContent content = contentOf(device->number(), device->path());
   EXPECT_EQ(content.label, "STICK");
   EXPECT_EQ(content.type, "vfat");
   EXPECT_EQ(content.version, "FAT16");
@@ -239,7 +271,7 @@ TEST_F(RealVolumes, AreToldByTheDeviceDatabaseRatherThanByTheDevice) {
   std::filesystem::create_directories("/run/udev/data");
   const auto tell = [&](const std::string& properties) {
     std::ofstream("/run/udev/data/b7:" + std::to_string(minor(device->number()))) << "V:1\n" << properties;
-    const DeviceContent content = DeviceContents().of(device->number(), device->path());
+    const DeviceContent content = contentOf(device->number(), device->path());
     return content.label + '|' + content.type + '|' + content.version;
   };
   EXPECT_EQ(tell("E:ID_FS_LABEL=my_stick\nE:ID_FS_LABEL_ENC=my\\x20stick\nE:ID_FS_TYPE=vfat\nE:ID_FS_VERSION=FAT32\n"),

@@ -32,16 +32,14 @@ TEST(BlockDevice, IsTheMountsOwnUnlessThatIsMadeUp) {
   EXPECT_EQ(blockDeviceOf(makedev(0, 40), "/dev/null"), 0U) << "a character device";
 }
 
-TEST(DeviceContents, AreEmptyForADeviceThatNobodyKnows) {
-  DeviceContents contents;
-  const DeviceContent content = contents.of(makedev(240, 99), "/nonexistent");
+TEST(DeviceContent, AreEmptyForADeviceThatNobodyKnows) {
+  const DeviceContent content = contentOf(makedev(240, 99), "/nonexistent");
   EXPECT_EQ(content.label + content.type + content.version, "");
 }
 
-TEST(DeviceContents, AreNotReadFromAnotherFileUnderTheDevicesName) {
-  DeviceContents contents;
-  EXPECT_EQ(contents.of(makedev(240, 99), "/dev/null").type, "");
-  EXPECT_EQ(contents.of(makedev(240, 99), "/etc/passwd").type, "");
+TEST(DeviceContent, AreNotReadFromAnotherFileUnderTheDevicesName) {
+  EXPECT_EQ(contentOf(makedev(240, 99), "/dev/null").type, "");
+  EXPECT_EQ(contentOf(makedev(240, 99), "/etc/passwd").type, "");
 }
 
 }  // namespace
