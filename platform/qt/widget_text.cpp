@@ -3,6 +3,8 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "platform/linux/shown_text.h"
+
 namespace calvero {
 namespace {
 
@@ -10,17 +12,7 @@ constexpr QChar kFirstStrongIsolate(0x2068);
 constexpr QChar kPopDirectionalIsolate(0x2069);
 
 bool isHarmful(QChar c) {
-  switch (c.category()) {
-    case QChar::Other_Control:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-      return true;
-    default:
-      break;
-  }
-  const char16_t unit = c.unicode();
-  return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
-         (unit >= 0x2066 && unit <= 0x2069);
+  return !isShown(c.unicode());
 }
 
 }  // namespace
