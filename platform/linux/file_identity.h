@@ -22,7 +22,7 @@ struct FileIdentity {
 
   [[nodiscard]] bool isFolder() const { return S_ISDIR(mode); }
   [[nodiscard]] bool isSymbolicLink() const { return S_ISLNK(mode); }
-  [[nodiscard]] bool isPlainFile() const { return S_ISREG(mode); }
+  [[nodiscard]] bool isRegularFile() const { return S_ISREG(mode); }
   [[nodiscard]] bool isSameFile(const FileIdentity& other) const {
     return inode == other.inode && device == other.device && isOnSameMount(other);
   }

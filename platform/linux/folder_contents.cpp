@@ -121,7 +121,7 @@ std::uint64_t allocatedBytesOfFiles(const OpenFolder& folder) {
   FolderReader reader(folder.get());
   while (const dirent* entry = reader.next()) {
     const auto identity = identityAt(folder.get(), entry->d_name);
-    if (identity && identity->isPlainFile() && identity->links == 1) bytes += identity->allocatedBytes;
+    if (identity && identity->isRegularFile() && identity->links == 1) bytes += identity->allocatedBytes;
   }
   return bytes;
 }

@@ -19,7 +19,7 @@ Error emptyFolder(const OpenFolder& folder, const std::string& path, std::atomic
 /// which he himself may not write. Changes nothing.
 Error checkLeftContents(const OpenFolder& folder, const std::string& path);
 
-/// Space taken by those plain files in the folder that have no name elsewhere.
+/// Space taken by those regular files in the folder that have no name elsewhere.
 std::uint64_t allocatedBytesOfFiles(const OpenFolder& folder);
 
 }  // namespace calvero

@@ -33,7 +33,7 @@ int unlinkIn(const OpenFolder& folder, const char* name) {
 }
 
 const char* whyNoFillerFile(const FileIdentity& found, const FileIdentity& directory) {
-  if (!found.isPlainFile()) return "it is not a plain file";
+  if (!found.isRegularFile()) return "it is not a regular file";
   if (!found.isOnSameMount(directory)) return "it is a mount point";
   if (found.links > 1) return "it has a second name";
   if (found.sizeBytes != 0) return "it is not empty";
@@ -102,7 +102,7 @@ Error PosixFillerDirectory::removeItem(const std::string& path) {
   // reserved behind the end of the file, while any open descriptor keeps the file's own blocks. O_PATH would not do:
   // a FUSE file system keeps a file without a name only for those who really opened it. A file that cannot be opened
   // holds its space by its name, until the directory is removed.
-  const bool takesSpace = found->isPlainFile() && (found->allocatedBytes != 0 || found->sizeBytes != 0);
+  const bool takesSpace = found->isRegularFile() && (found->allocatedBytes != 0 || found->sizeBytes != 0);
   Descriptor file;
   if (takesSpace && !closed_) {
     file = Descriptor(openIn(directory_, name, O_RDONLY | O_NONBLOCK));

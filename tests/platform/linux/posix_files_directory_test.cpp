@@ -89,24 +89,24 @@ TEST_F(FillerDirectoryFiles, DoesNotOpenAHardLinkThatTookTheFilesPlace) {
 
 TEST_F(FillerDirectoryFiles, DoesNotOpenASymbolicLinkThatTookTheFilesPlace) {
   fs::create_symlink(precious_, pathOf(".temp0"));
-  expectNotOpened("it is not a plain file");
+  expectNotOpened("it is not a regular file");
 }
 
 TEST_F(FillerDirectoryFiles, DoesNotWaitForTheReaderOfAFifoThatTookTheFilesPlace) {
   ASSERT_EQ(::mkfifo(pathOf(".temp0").c_str(), 0600), 0);
-  expectNotOpened("it is not a plain file");
+  expectNotOpened("it is not a regular file");
 }
 
 TEST_F(FillerDirectoryFiles, DoesNotOpenAFolderThatTookTheFilesPlace) {
   fs::create_directory(pathOf(".temp0"));
-  expectNotOpened("it is not a plain file");
+  expectNotOpened("it is not a regular file");
 }
 
 TEST_F(FillerDirectoryFiles, DoesNotOpenADeviceThatTookTheFilesPlace) {
   if (::mknod(pathOf(".temp0").c_str(), S_IFCHR | 0600, makedev(1, 3)) != 0) {
     GTEST_SKIP() << "needs the right to make a device";
   }
-  expectNotOpened("it is not a plain file");
+  expectNotOpened("it is not a regular file");
 }
 
 TEST_F(FillerDirectoryFiles, DoesNotOpenAnotherFileThatTookTheFilesPlace) {
