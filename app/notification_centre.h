@@ -23,7 +23,6 @@ class NotificationCentre {
       if (observed == name) action();
     }
   }
-  [[nodiscard]] std::size_t observerCount() const { return observers_.size(); }
 
  private:
   std::vector<std::pair<std::string, std::function<void()>>> observers_;

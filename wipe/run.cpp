@@ -174,7 +174,6 @@ void AppDelegate::wipeFreeSpace(WipeRun& run) {
     }
     deleteByFiles(run, i);
     if (run.applicationEnding != 0) return;
-    ++run.counters.filesDone;
   }
   finishRun(run);
 }

@@ -18,7 +18,7 @@ class FillerDirectory;
 /// How a run ended. The first outcome that is noted stands.
 enum class RunOutcome : std::uint8_t {
   none,      ///< not started, or still under way
-  finished,  ///< every filler file was written in its turn and the directory is removed
+  finished,  ///< every filler file was written in its turn; a directory that could not be removed is in the log
   failed,    ///< the volume or a filler file is gone
   cancelled,
 };
@@ -27,8 +27,6 @@ enum class RunOutcome : std::uint8_t {
 struct RunCounters {
   std::atomic<std::uint64_t> bytesCovered{0};  ///< bytes of the volume that received every pass
   std::atomic<std::uint64_t> bytesWritten{0};  ///< bytes written, all passes counted
-  std::atomic<std::uint64_t> filesCreated{0};
-  std::atomic<std::uint64_t> filesDone{0};
 };
 
 // A stop request must never wait for a lock that a stuck worker holds.
@@ -77,9 +75,9 @@ struct WipeRun {
   void noteRefusal(const Error& refusal);
   [[nodiscard]] Error refusal() const;
 
-  /// Remembers the first filler file that could not be created or opened, and the first write, flush or removal that
-  /// failed for another reason than a full volume. A run with a fault may have left data readable, whatever its
-  /// outcome. Any thread.
+  /// Counts a filler file that could not be created or opened, a write or flush that failed for another reason than a
+  /// full volume, a directory or removal that failed with the volume lost, and what the program could not go on with;
+  /// remembers the first. A run with a fault may have left data readable, whatever its outcome. Any thread.
   void noteFault(const Error& fault);
   [[nodiscard]] Error firstFault() const;
   [[nodiscard]] std::uint64_t faults() const;

@@ -25,6 +25,12 @@ class StartUp : public ::testing::Test {
  protected:
   StartUp() { world.volume("DATA", 300'000'000); }
 
+  void expectOneObserverOfTheTiles(AppDelegate& app) {
+    world.journal.clear();
+    app.notifications().post(kSelectionChanged);
+    EXPECT_EQ(world.journal.only({"setText tfDriveName"}).size(), 1U);
+  }
+
   World world;
 };
 
@@ -121,20 +127,18 @@ TEST_F(StartUp, CompletesTheLaunchOfAnOrderedWipeByStartingItBeforeTheCancelPoll
 
 TEST_F(StartUp, AddsExactlyTwoObserversWhenTheLaunchCompletes) {
   AppDelegate& app = world.create();
-  const std::size_t before = app.notifications().observerCount();
   app.applicationDidFinishLaunching();
   EXPECT_EQ(world.systemNotifications.observerCount(), 1U);
-  EXPECT_EQ(app.notifications().observerCount(), before + 1);
+  expectOneObserverOfTheTiles(app);
   EXPECT_TRUE(world.loop.timers().empty());
 }
 
 TEST_F(StartUp, AddsOneTimerMoreInRemoteMode) {
   world.order("DATA", "1");
   AppDelegate& app = world.create();
-  const std::size_t before = app.notifications().observerCount();
   app.applicationDidFinishLaunching();
   EXPECT_EQ(world.systemNotifications.observerCount(), 1U);
-  EXPECT_EQ(app.notifications().observerCount(), before + 1);
+  expectOneObserverOfTheTiles(app);
   ASSERT_EQ(world.loop.timers().size(), 1U);
   EXPECT_EQ(world.loop.timers().begin()->first, app.order().cvrTimer);
   EXPECT_EQ(world.loop.timers().begin()->second.interval, std::chrono::seconds(60));
