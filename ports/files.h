@@ -102,8 +102,9 @@ class Files {
 
   /// Makes the filler directory, or takes over the one an interrupted run left, and locks it. It is taken over only if
   /// it is a real directory on the volume itself, owned by the running user, and holds nothing but filler files and
-  /// empty folders; what the interrupted run left in it is removed. Null with `error` filled otherwise, and then
-  /// nothing in it was opened, written or removed.
+  /// empty folders; what the interrupted run left in it is removed. Null with `error` filled otherwise. Then
+  /// nothing was written or removed that no run made; a directory of ours may already have the mode 0700, and where the
+  /// removal failed, part of what the run left is gone.
   virtual std::unique_ptr<FillerDirectory> createFillerDirectory(const std::string& volumePath,
                                                                  const std::string& directoryPath, Error& error) = 0;
 
