@@ -3,6 +3,7 @@
 import collections
 import ctypes
 import functools
+import itertools
 import multiprocessing
 import os
 import signal
@@ -18,6 +19,8 @@ _MS_BIND, _MNT_DETACH = 4096, 2
 _EVERYBODY = 0o777
 _NEW_FILE = os.O_CREAT | os.O_EXCL | os.O_WRONLY | os.O_CLOEXEC
 
+_LEFT_FILLERS = (0, 2, 3)
+
 _libc = ctypes.CDLL(None)
 
 
@@ -26,7 +29,7 @@ class Neighbour:
     worked, by kind, but for mounting where users may not.
 
     In the volume's root folder there are "precious", "secret", "left" and "shared", folders of root's, the last two
-    open to everybody; "theirs" and "decoy", folders of the neighbour's; "link", a symbolic link; "letter", a file that
+    open to everybody and "left" with filler files that a run of root's has left; "theirs" and "decoy", folders of the neighbour's; "link", a symbolic link; "letter", a file that
     he may write to. `outside` is a folder of root's elsewhere."""
 
     def __init__(self, volumePath, outside, ways):
@@ -95,7 +98,8 @@ def _special(path, kind):
 
 
 def _actions(way, outside):
-    return {"swap": _swaps, "move": _moves, "plant": _plants, "mount": _mounts}[way](outside)
+    return {"swap": _swaps, "move": _moves, "plant": _plants, "fill": _fills, "remove": _removes,
+            "mount": _mounts}[way](outside)
 
 
 def _swaps(outside):
@@ -125,16 +129,38 @@ def _plants(outside):
         for target in ("precious", "letter", outside, outside + "/letter", outside + "/mine"):
             leads = os.path.join(".." if "/" in path else ".", target)
             yield f"plant a link {where}", _call(_libc.symlink, leads, path)
-            yield f"remove a file {where}", _call(_libc.unlink, path)
+            yield f"remove a plant {where}", _call(_libc.unlink, path)
         for kind, make in (("a second name of a file", _call(_libc.link, "letter", path)),
                            ("a pipe", _special(path, stat.S_IFIFO)), ("a socket", _special(path, stat.S_IFSOCK)),
                            ("a file", _make(path))):
             yield f"plant {kind} {where}", make
-            yield f"remove a file {where}", _call(_libc.unlink, path)
+            yield f"remove a plant {where}", _call(_libc.unlink, path)
         yield f"plant a folder {where}", _call(_libc.mkdir, path, _EVERYBODY)
         yield f"plant a folder with a file {where}", _make(path + "/own")
         yield f"remove a file from a folder {where}", _call(_libc.unlink, path + "/own")
         yield f"remove a folder {where}", _call(_libc.rmdir, path)
+
+
+def _fills(outside):
+    """Empty files without end, named as a run's own, in whatever stands in its place."""
+    numbers = itertools.count()
+    yield "fill it", lambda: _special(f"{FILLER_NAME}/.temp{next(numbers)}", stat.S_IFREG)()
+
+
+def _removes(outside):
+    for number in _LEFT_FILLERS:
+        yield "remove a filler", functools.partial(_removeOfRoot, f"{FILLER_NAME}/.temp{number}")
+
+
+def _removeOfRoot(path):
+    """Not one that a neighbour has put there."""
+    try:
+        if os.lstat(path).st_uid != 0:
+            return -1
+        os.unlink(path)
+    except OSError:
+        return -1
+    return 0
 
 
 def _mounts(outside):

@@ -17,7 +17,10 @@ from testkit.volume import FILLER_NAME, MEGABYTE
 # By hand for longer: the races are won more often the longer they are tried.
 SECONDS = int(os.environ.get("CALVERO_HOSTILE_SECONDS", "60"))
 STICKY, OPEN = 0o1777, 0o777
-WAYS = (("swap",), ("move",), ("plant",), ("swap", "plant"), ("move", "plant"), ("swap", "mount"))
+# How much longer it may take until each way has succeeded at all.
+PATIENCE_SECONDS = 180
+WAYS = (("swap",), ("move",), ("plant",), ("swap", "plant"), ("move", "plant"), ("swap", "fill"), ("swap", "remove"),
+        ("swap", "mount"))
 # Long enough for hundreds of the neighbour's actions behind each of the run's system calls.
 DELAY_MICROSECONDS = 3000
 # What the neighbour's own entries take meanwhile.
@@ -147,10 +150,17 @@ class HostileNeighbour(SystemTest):
         os.chmod(target.path, mode)
         outside = self.outsideFolder()
         number = 0
-        while time.monotonic() < until or number < len(WAYS):
+        while time.monotonic() < until or number < len(WAYS) or not (self.isAllMet() or self.isOverdue(until)):
             ways = WAYS[number % len(WAYS)]
             yield from self.attackedRun(target, outside, ways, slowed)
             number += 1
+
+    def isAllMet(self):
+        """Whether each kind of attack has succeeded, and runs were finished and refused."""
+        return all((*self.successes.values(), self.exits[program.EXIT_FINISHED], self.exits[program.EXIT_REFUSED]))
+
+    def isOverdue(self, until):
+        return time.monotonic() > until + PATIENCE_SECONDS
 
     def attackedRun(self, target, outside, ways, slowed):
         ground = Ground(target, outside)
