@@ -11,6 +11,7 @@ from dataclasses import dataclass
 
 from case import everything
 from testkit.program import EXIT_REFUSED, endWithParent, startedAs
+from testkit.trace import under
 from testkit.volume import FILLER_NAME
 
 FREE_CLUSTERS = 61  # of 4096 bytes: two whole filler files of 100,000 bytes and a part of a third
@@ -54,7 +55,7 @@ class FaultVolume:
         os.chmod(self._behind, 0o1777)
         os.mkdir(self.path)
         self._keepFiles()
-        self._kept = everything(self._behind)
+        self._kept = self._keptNow()
         if leftoversOf is not None:
             self._leaveFillers(leftoversOf)
 
@@ -95,7 +96,7 @@ class FaultVolume:
         with open(ledger) as lines:
             calls = {name: int(figure) for name, figure in (line.split() for line in lines)}
         return Ended(ended.returncode, json.loads(ended.stdout or "{}"), ended.stderr, calls, self._left(),
-                     self._keptUnchanged())
+                     self._keptNow() == self._kept)
 
     def runUndisturbed(self, program, method, plainUser):
         """A run without a fault. On a machine that is too busy to answer a run within its patience it is refused, and
@@ -114,9 +115,11 @@ class FaultVolume:
     def _left(self):
         return sorted(os.listdir(self._fillers)) if os.path.lexists(self._fillers) else None
 
-    def _keptUnchanged(self):
-        now = everything(self._behind)
-        return {path: about for path, about in now.items() if not path.startswith(self._fillers)} == self._kept
+    def _keptNow(self):
+        """All but the filler directory, and the volume's own folder."""
+        root = os.lstat(self._behind)
+        entries = {path: about for path, about in everything(self._behind).items() if not under(path, self._fillers)}
+        return (root.st_mode, root.st_uid, root.st_gid), entries
 
     def close(self):
         shutil.rmtree(self._folder)

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 
 #include "tests/faults/fault_plan.h"
@@ -29,6 +30,7 @@ struct FileSystem {
   std::uint64_t bytesWritten = 0;
   std::uint64_t unflushedWrites = 0;  ///< writes that no successful flush of the same file has followed
   std::uint64_t bytesFlushed = 0;
+  std::set<ino_t> filesBegun;                        ///< those of which a write was tried
   std::map<std::uint64_t, std::uint64_t> unflushed;  ///< bytes of the last write, by file handle
 };
 

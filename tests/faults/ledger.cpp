@@ -11,6 +11,7 @@ void FileSystem::writeLedger() const {
   for (std::size_t kind = 0; kind < kKindNames.size(); ++kind)
     out << kKindNames[kind] << ' ' << plan.calls(kind) << '\n';
   out << "hits " << plan.hits() << '\n'
+      << "filesBegun " << filesBegun.size() << '\n'
       << "bytesWritten " << bytesWritten << '\n'
       << "bytesFlushed " << bytesFlushed << '\n'
       << "unflushedWrites " << unflushedWrites << '\n'

@@ -154,14 +154,15 @@ void closeFile(fuse_req_t request, fuse_ino_t, fuse_file_info* info) {
 
 void write(fuse_req_t request, fuse_ino_t, const char* data, std::size_t bytes, off_t offset, fuse_file_info* info) {
   FileSystem& fs = of(request);
+  const int file = static_cast<int>(info->fh);
+  struct stat about = {};
+  ::fstat(file, &about);
+  fs.filesBegun.insert(about.st_ino);
   const Verdict verdict = fs.plan.meet(Kind::write);
   if (verdict.errnoValue != 0) {
     fuse_reply_err(request, verdict.errnoValue);
     return;
   }
-  const int file = static_cast<int>(info->fh);
-  struct stat about = {};
-  ::fstat(file, &about);
   const std::uint64_t asked = verdict.torn ? bytes / 2 : bytes;
   const std::uint64_t fits = fs.room.take(about.st_ino, static_cast<std::uint64_t>(offset), asked);
   if (fits == 0) {

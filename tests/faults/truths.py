@@ -4,6 +4,11 @@ from testkit.program import EXIT_FAILED, EXIT_FINISHED, EXIT_REFUSED
 
 # How a volume says that it is full, which is the normal end of a fill: it is believed even where room is left.
 _FULL = {"ENOSPC", "EDQUOT"}
+# What is needed to find and remove what a run has made; while it goes on failing, that stays.
+_CLEANING = {"lookup", "getattr", "setattr", "open", "opendir", "readdir", "unlink", "rmdir"}
+# By what a run looks at a directory that it finds, and closes it to others, before it takes it over.
+_TAKING_OVER = {"lookup", "getattr", "setattr", "open", "opendir", "readdir", "statfs"}
+FILLER_FILES = 3
 
 
 class Fault:
@@ -17,7 +22,16 @@ class Fault:
         self.action = action.rstrip("+")
 
     def saysFull(self):
-        return self.kind in ("write", "fsync") and (self.action in _FULL or self.action == "tear")
+        return self.kind in ("write", "fsync") and self.action in _FULL
+
+    def mustFinish(self):
+        """What a run gets over: a call that is answered late while it works, and a short write."""
+        return (self.action == "delay" and self.kind in ("write", "fsync", "unlink") and not self.lasts
+                or self.action == "tear")
+
+    def mustReachEveryFile(self):
+        """One block is lost; the rest of the volume can still be covered."""
+        return self.kind in ("write", "fsync") and self.action == "EIO" and not self.lasts
 
     def losesData(self):
         """Whether a write or its flush fails for another reason than a full volume."""
@@ -26,7 +40,7 @@ class Fault:
 
 def untruths(fault, ended, withLeftovers):
     """What is wrong with how the run ended, as texts."""
-    return [*_untrueEnd(ended), *_untrueReport(ended), *_untrueSuccess(fault, ended),
+    return [*_untrueEnd(ended), *_givenUpEarly(fault, ended), *_untrueReport(ended), *_untrueSuccess(fault, ended),
             *_leftBehind(fault, ended, withLeftovers)]
 
 
@@ -49,6 +63,15 @@ def _untrueEnd(ended):
             yield f"it crashed: {ended.errors}"
     if not ended.keptUnchanged:
         yield "kept files have changed"
+
+
+def _givenUpEarly(fault, ended):
+    if ended.calls["hits"] == 0:
+        return
+    if fault.mustFinish() and ended.exitCode != EXIT_FINISHED:
+        yield f"it ended with {ended.exitCode}: {ended.errors.strip()}"
+    if fault.mustReachEveryFile() and ended.calls["filesBegun"] != FILLER_FILES:
+        yield f"it began {ended.calls['filesBegun']} of {FILLER_FILES} files"
 
 
 def _untrueReport(ended):
@@ -85,9 +108,9 @@ def _untrueSuccess(fault, ended):
 
 def _leftBehind(fault, ended, withLeftovers):
     """What the fault itself keeps from being removed stays: all that is on a volume that has died, and all where the
-    removing calls go on failing. Nobody takes over a directory that an earlier run left but could not be looked at."""
-    if ended.left is None or fault.action == "die" or fault.lasts:
+    calls go on failing by which things are removed. A directory that could not be taken over is nobody's to remove."""
+    if ended.left is None or fault.action == "die" or (fault.lasts and fault.kind in _CLEANING):
         return
-    if withLeftovers and ended.calls["bytesWritten"] == 0 and ended.exitCode != EXIT_FINISHED:
+    if withLeftovers and ended.exitCode != EXIT_FINISHED and ended.calls["create"] == 0 and fault.kind in _TAKING_OVER:
         return
     yield f"it left {ended.left} behind"

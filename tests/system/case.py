@@ -122,7 +122,7 @@ def isWriting(target, number):
 
 
 def everything(root):
-    """Every entry below `root`: kind, mode, owner, size, time of change and contents, to see that nothing changed."""
+    """Every entry below `root`: kind, mode, owner and group, size, time of change and contents, to see that nothing changed."""
     entries = {}
     for folder, folders, files in os.walk(root):
         for name in folders + files:
@@ -134,7 +134,7 @@ def everything(root):
                     content = file.read()
             elif stat.S_ISLNK(about.st_mode):
                 content = os.readlink(path)
-            entries[path] = (about.st_mode, about.st_uid, about.st_nlink, about.st_size, about.st_mtime_ns, content)
+            entries[path] = (about.st_mode, (about.st_uid, about.st_gid), about.st_nlink, about.st_size, about.st_mtime_ns, content)
     return entries
 
 
