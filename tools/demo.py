@@ -8,6 +8,7 @@ import signal
 import subprocess
 import sys
 
+from testkit import scratch
 from testkit.marks import KeptFiles, MarkedData
 from testkit.program import endWithParent, programPath
 from testkit.volume import MEBIBYTE, MEGABYTE, Unavailable, Volume
@@ -57,12 +58,7 @@ def prepare(volume):
     """Fills the volume with the user's files and deletes most of them; returns both kinds and what is readable."""
     kept = KeptFiles(volume.path)
     marked = MarkedData(volume.path)
-    marked.fill()
-    marked.delete()
-    volume.unmount()
-    before = marked.bytesReadable(volume)
-    volume.mount()
-    return kept, marked, before
+    return kept, marked, marked.leaveDeleted(volume)
 
 
 def wipe(volume, method):
@@ -117,6 +113,7 @@ def main():
     chosen = arguments()
     programPath()
     becomeRoot()
+    scratch.use()
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(128 + signal.SIGTERM))
     try:
         return show(chosen.fs, chosen.method)

@@ -17,7 +17,8 @@ here = pathlib.Path(__file__).resolve().parent
 sys.path[:0] = [str(here), str(here.parent / "system"), str(here.parent.parent / "tools")]
 
 from fault_volume import FaultVolume, whyUnavailable  # noqa: E402
-from testkit.program import EXIT_FINISHED, PLAIN_USER, PublicCopy  # noqa: E402
+from testkit import scratch  # noqa: E402
+from testkit.program import EXIT_FINISHED, PLAIN_USER, PublicCopy, endWithParent  # noqa: E402
 from testkit.volume import usePrivateMounts  # noqa: E402
 from truths import FILLER_FILES, Fault, untruths, untruthsOfNextRun  # noqa: E402
 
@@ -47,23 +48,29 @@ class Scene:
         user = "a plain user" if self.plainUser else "root"
         return f"method {self.method} as {user}" + (", taking over a directory" if self.leftovers else "")
 
-    def makeVolume(self):
+    def makeVolume(self, means):
         leftoversOf = (PLAIN_USER if self.plainUser else 0) if self.leftovers else None
-        return FaultVolume(os.environ["CALVERO_FAULTFS"], leftoversOf)
+        return FaultVolume(os.environ["CALVERO_FAULTFS"], means.folder, leftoversOf)
+
+
+@dataclasses.dataclass(frozen=True)
+class Means:
+    program: str
+    folder: str  # where volumes are made
 
 
 USUAL_SCENES = (Scene(), Scene(leftovers=True))
 ALL_SCENES = (*USUAL_SCENES, Scene(method="3", plainUser=True), Scene(plainUser=True, leftovers=True))
 
 
-def attempt(program, scene, faultText):
+def attempt(means, scene, faultText):
     """One run with the fault and one after it; returns whether the fault was met and what was untrue."""
     fault = Fault(faultText)
-    volume = scene.makeVolume()
+    volume = scene.makeVolume(means)
     try:
-        ended = volume.run(program, scene.method, scene.plainUser, faultText)
+        ended = volume.run(means.program, scene.method, scene.plainUser, faultText)
         complaints = untruths(fault, ended, scene.leftovers)
-        complaints += untruthsOfNextRun(volume.runUndisturbed(program, scene.method, scene.plainUser))
+        complaints += untruthsOfNextRun(volume.runUndisturbed(means.program, scene.method, scene.plainUser))
         return ended.calls["hits"] > 0, complaints
     except Exception as failure:
         return True, [f"{type(failure).__name__}: {failure}"]
@@ -71,11 +78,11 @@ def attempt(program, scene, faultText):
         volume.close()
 
 
-def countCalls(program, scene):
+def countCalls(means, scene):
     """The undisturbed run: what every other one is measured against."""
-    volume = scene.makeVolume()
+    volume = scene.makeVolume(means)
     try:
-        ended = volume.runUndisturbed(program, scene.method, scene.plainUser)
+        ended = volume.runUndisturbed(means.program, scene.method, scene.plainUser)
     finally:
         volume.close()
     complaints = [*untruthsOfNextRun(ended)]
@@ -99,9 +106,9 @@ def pointsOf(calls, everyAction):
         yield from (f"{kind}:{call}:{action}" for call, action in points)
 
 
-def sweep(pool, program, scene, faultTexts):
+def sweep(pool, means, scene, faultTexts):
     """Tries the faults and prints the untruths; returns how many faults were met, and how many untruths there are."""
-    attempts = {pool.submit(attempt, program, scene, text): text for text in faultTexts}
+    attempts = {pool.submit(attempt, means, scene, text): text for text in faultTexts}
     met, untrue = 0, 0
     for done in concurrent.futures.as_completed(attempts):
         wasMet, found = done.result()
@@ -112,14 +119,14 @@ def sweep(pool, program, scene, faultTexts):
     return met, untrue
 
 
-def sweepAll(pool, program, scenes, everyAction, named):
+def sweepAll(pool, means, scenes, everyAction, named):
     """Whether nothing was wrong."""
     isAllTrue = True
     for scene in scenes:
         startedAt = time.monotonic()
-        calls = pool.submit(countCalls, program, scene).result()
+        calls = pool.submit(countCalls, means, scene).result()
         faultTexts = named or list(pointsOf(calls, everyAction))
-        met, untrue = sweep(pool, program, scene, faultTexts)
+        met, untrue = sweep(pool, means, scene, faultTexts)
         print(f"{scene}: {sum(calls.values())} calls, {len(faultTexts)} faults tried, {met} met, "
               f"{untrue} untruths, {time.monotonic() - startedAt:.0f} s", flush=True)
         print("  calls: " + ", ".join(f"{kind} {count}" for kind, count in calls.items()), flush=True)
@@ -134,13 +141,17 @@ def main(arguments):
         return SKIPPED
     everyAction = arguments == ["--all"]
     named = [] if everyAction else arguments
-    copy = PublicCopy(os.environ["CALVERO_CLI_SCALED"])
-    try:
-        with concurrent.futures.ProcessPoolExecutor(RUNS_AT_ONCE, initializer=usePrivateMounts) as pool:
-            isAllTrue = sweepAll(pool, copy.path, ALL_SCENES if everyAction else USUAL_SCENES, everyAction, named)
-    finally:
-        copy.remove()
+    scratch.use()
+    inMemory = scratch.folder("/dev/shm" if os.path.isdir("/dev/shm") else None)
+    means = Means(PublicCopy(os.environ["CALVERO_CLI_SCALED"]).path, inMemory)
+    with concurrent.futures.ProcessPoolExecutor(RUNS_AT_ONCE, initializer=beginWorker) as pool:
+        isAllTrue = sweepAll(pool, means, ALL_SCENES if everyAction else USUAL_SCENES, everyAction, named)
     return 0 if isAllTrue else 1
+
+
+def beginWorker():
+    endWithParent()
+    usePrivateMounts()
 
 
 if __name__ == "__main__":

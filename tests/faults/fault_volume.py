@@ -44,9 +44,9 @@ class FaultVolume:
     has it mounted anew, by a file system program of its own. Nobody but the run looks at the mount: each call counts.
     """
 
-    def __init__(self, server, leftoversOf=None):
+    def __init__(self, server, folder, leftoversOf=None):
         self._server = server
-        self._folder = tempfile.mkdtemp(prefix="calvero-faults-", dir="/dev/shm" if os.path.isdir("/dev/shm") else None)
+        self._folder = tempfile.mkdtemp(prefix="calvero-faults-", dir=folder)
         os.chmod(self._folder, 0o755)
         self._behind = os.path.join(self._folder, "behind")
         self.path = os.path.join(self._folder, "volume")

@@ -10,6 +10,9 @@ NO_TESTS = 5
 here = pathlib.Path(__file__).resolve().parent
 sys.path[:0] = [str(here), str(here.parent.parent / "tools")]
 
+from testkit import scratch  # noqa: E402
+
+scratch.use()
 run = unittest.main(module=None, argv=[sys.argv[0], "-v", *sys.argv[1:]], exit=False).result
 if not run.wasSuccessful():
     sys.exit(1)

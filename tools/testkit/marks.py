@@ -64,6 +64,15 @@ class MarkedData:
     def delete(self):
         shutil.rmtree(self._root)
 
+    def leaveDeleted(self, volume):
+        """Fills the mounted volume, deletes it all and returns how much of it the medium still holds."""
+        self.fill()
+        self.delete()
+        volume.unmount()
+        readable = self.bytesReadable(volume)
+        volume.mount()
+        return readable
+
     def bytesReadable(self, volume):
         """Bytes of marked sectors on the unmounted volume's medium."""
         return volume.count(self.marker) * SECTOR_BYTES

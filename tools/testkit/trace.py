@@ -57,16 +57,21 @@ def _sanitizerOptions():
     return (os.environ.get("ASAN_OPTIONS", "") + ":detect_leaks=0").lstrip(":")
 
 
+# A tracer that is killed with its test would leave the program behind.
+_ENDS_WITH_TRACER = ["setpriv", "--pdeathsig", "KILL", "--"]
+
+
 def command(outputPath, program):
     return ["strace", "-f", "--seccomp-bpf", "-y", "-x", "-s", "8", "-qq", "-e", f"trace={_TRACED}",
-            "-e", "signal=none", "-E", f"ASAN_OPTIONS={_sanitizerOptions()}", "-o", outputPath, "--", *program]
+            "-e", "signal=none", "-E", f"ASAN_OPTIONS={_sanitizerOptions()}", "-o", outputPath,
+            "--", *_ENDS_WITH_TRACER, *program]
 
 
 def _tracing(outputPath, program, paths, *options):
     # Not with --seccomp-bpf, under which no signal is delivered.
     ofPaths = [option for path in paths for option in ("-P", path)]
     return ["strace", "-f", "-qq", *ofPaths, *options, "-E", f"ASAN_OPTIONS={_sanitizerOptions()}", "-o", outputPath,
-            "--", *program]
+            "--", *_ENDS_WITH_TRACER, *program]
 
 
 def noting(outputPath, program, paths):
@@ -101,9 +106,7 @@ def stopping(outputPath, program, paths, point):
 def delaying(program, paths, microseconds):
     """A command that runs the program and halts it for a moment behind each call on those paths that looks for, makes
     or removes something; it ends as the program does."""
-    ofPaths = [option for path in paths for option in ("-P", path)]
-    return ["strace", "-f", "-qq", *ofPaths, "-e", f"inject={_LOOKS}:delay_exit={microseconds}", "-e", "signal=none",
-            "-E", f"ASAN_OPTIONS={_sanitizerOptions()}", "-o", os.devnull, "--", *program]
+    return _tracing(os.devnull, program, paths, "-e", f"inject={_LOOKS}:delay_exit={microseconds}", "-e", "signal=none")
 
 
 def isStopped(outputPath):

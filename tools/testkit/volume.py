@@ -1,7 +1,8 @@
 """Throwaway volumes that leave nothing behind, however the process ends.
 
 The image is a file without a name, the loop device detaches itself when its last user is gone, and the volume is
-mounted in a mount table of this process's own. So even SIGKILL frees all three.
+mounted in a mount table of this process's own. So even SIGKILL frees all three; what then stays is the empty folder on
+which the volume was mounted, unless scratch.use() was called before.
 """
 
 import ctypes
@@ -19,6 +20,7 @@ MEGABYTE = 1_000_000
 MEBIBYTE = 1 << 20
 FILLER_BYTES = 128 * MEGABYTE
 FILLER_NAME = ".$$XE8AQU"
+EXT4_RESERVE_BYTES = 17_000_000  # it keeps back up to 4096 clusters for itself
 
 _LOOP_CTL_GET_FREE = 0x4C82
 _LOOP_CONFIGURE = 0x4C0A
