@@ -10,11 +10,11 @@ import unittest
 from testkit import program
 from testkit.fuse_volume import FuseVolume
 from testkit.program import startedAs
-from testkit.volume import FILLER_BYTES, MEBIBYTE, MEGABYTE, Unavailable, Volume
+from testkit.volume import FILLER_BYTES, MEBIBYTE, MEGABYTE, Unavailable, Volume, protectDisks
 
 # Metadata that a run may leave allocated: directory blocks, B-tree nodes.
 FREE_SPACE_SLACK_BYTES = 4 * MEGABYTE
-FILL_TIMEOUT_SECONDS = 280
+FILL_TIMEOUT_SECONDS = 120
 
 
 class SystemTest(unittest.TestCase):
@@ -22,6 +22,7 @@ class SystemTest(unittest.TestCase):
 
     def makeVolume(self, fs="ext4", mebibytes=64, **options):
         try:
+            protectDisks()
             made = Volume(fs, mebibytes * MEBIBYTE, **options)
         except Unavailable as reason:
             self.skipTest(str(reason))
@@ -32,6 +33,7 @@ class SystemTest(unittest.TestCase):
 
     def makeFuseVolume(self, mebibytes):
         try:
+            protectDisks()
             made = FuseVolume(mebibytes * MEBIBYTE)
         except Unavailable as reason:
             self.skipTest(str(reason))

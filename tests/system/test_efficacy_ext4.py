@@ -1,9 +1,10 @@
 from efficacy import EfficacyTest
+from testkit.volume import EXT4_RESERVE_BYTES
 
 
 class EfficacyOnExt4(EfficacyTest):
     fs = "ext4"
-    mostReadableBytes = 17_000_000  # ext4 keeps back up to 4096 clusters for itself.
+    mostReadableBytes = EXT4_RESERVE_BYTES
 
     def testOnePassLeavesOnlyTheReserveReadable(self):
         self.checkRun("1")

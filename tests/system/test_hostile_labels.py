@@ -5,6 +5,7 @@ import fcntl
 import json
 import os
 import re
+import tempfile
 
 from case import SystemTest
 from testkit import program
@@ -95,7 +96,7 @@ class HostileText(SystemTest):
         self.assertRefused(refused, name)
         self.assertHarmless(refused.stderr)
 
-    def checkAsked(self, target, name):
+    def checkAsked(self, name):
         """On a terminal, in the list, the announcement and the end."""
         for arguments, answers in (((), ("\x03",)), (("wipe", "--method", "1", "--", name), ("NO",))):
             started = TerminalProgram([program.programPath(), *arguments], columns=250)
@@ -107,24 +108,30 @@ class HostileText(SystemTest):
             self.assertEqual(started.waitForEnd(), program.EXIT_CANCELLED, started.text)
             self.assertHarmless(started.text.replace("\r", ""))
 
-    def checkErased(self, target, name):
-        ended = self.runProgram("wipe", "--method", "1", "--yes", "--json", "--", name)
-        self.assertEqual(ended.returncode, program.EXIT_FINISHED, ended)
-        self.assertHarmless(ended.stdout + ended.stderr)
-        report = json.loads(ended.stdout)
+    def startErasing(self, *volumes):
+        """Each by its name; they go on beside each other."""
+        return [self.startProgram("wipe", "--method", "1", "--yes", "--json", "--", volume) for volume in volumes]
+
+    def checkErased(self, target, name, process):
+        code, output, errors = self.finish(process)
+        self.assertEqual(code, program.EXIT_FINISHED, (output, errors))
+        self.assertHarmless(output + errors)
+        report = json.loads(output)
         self.assertEqual((report["volume"], report["mountPath"]), (name, pathInJson(target)))
         self.assertNothingLeft(target)
 
 
 class HostileLabels(HostileText):
     def testALabelIsShownHarmlesslyAndItsNameLeadsBackToItsVolume(self):
-        for fs, mebibytes, label in LABELS:
+        targets = [(self.makeVolume(fs, mebibytes, label=label), label) for fs, mebibytes, label in LABELS]
+        for target, label in targets:
             with self.subTest(label):
-                target = self.makeVolume(fs, mebibytes, label=label)
                 self.checkListed(target, shownAs(label))
-                self.checkAsked(target, shownAs(label))
-                self.checkErased(target, shownAs(label))
-                target.close()
+                self.checkAsked(shownAs(label))
+        started = self.startErasing(*(shownAs(label) for _, label in targets))
+        for (target, label), process in zip(targets, started):
+            with self.subTest(label):
+                self.checkErased(target, shownAs(label), process)
 
     def testALabelOfAnyFileSystemIsShownHarmlessly(self):
         for fs, mebibytes, label in LARGE_LABELS:
@@ -133,7 +140,7 @@ class HostileLabels(HostileText):
                 if fs == "btrfs":
                     self.relabel(target, label)
                 self.checkListed(target, shownAs(label))
-                self.checkAsked(target, shownAs(label))
+                self.checkAsked(shownAs(label))
                 target.close()
 
     def relabel(self, target, label):
@@ -157,26 +164,35 @@ class HostileLabels(HostileText):
         targets = [self.makeVolume("ext4", SHORT, label=label) for _ in range(2)]
         names = [self.listed(target)["name"] for target in targets]
         self.assertEqual(sorted(names), [shownAs(label), shownAs(label) + " 1"])
-        for target, name in zip(targets, names):
-            self.checkErased(target, name)
+        for target, name, process in zip(targets, names, self.startErasing(*names)):
+            self.checkErased(target, name, process)
 
 
 class HostileMountPaths(HostileText):
+    def mountedAt(self, folder):
+        parent = tempfile.mkdtemp(prefix="calvero-parent-")
+        self.addCleanup(os.rmdir, parent)
+        target = self.makeVolume("ext4", SHORT, label=" ")
+        target.mountAt(os.path.join(parent, os.fsdecode(folder)))
+        return target
+
     def testAMountPathIsShownHarmlesslyAndItsNameLeadsBackToItsVolume(self):
-        for folder in FOLDERS:
+        targets = [(self.mountedAt(folder), folder) for folder in FOLDERS]
+        names = []
+        for target, folder in targets:
             with self.subTest(folder):
-                target = self.makeVolume("ext4", SHORT, label=" ")
-                parent = target.path + "-of"
-                os.mkdir(parent)
-                target.mountAt(os.path.join(parent, os.fsdecode(folder)))
-                name = self.listed(target)["name"]
-                self.assertEqual(name, shownAs(folder))
-                self.checkListed(target, name)
-                self.checkAsked(target, name)
-                self.checkErased(target, name)
-                byPath = self.runProgram("wipe", os.fsencode(target.path), "--method", "1", "--yes")
-                self.assertEqual(byPath.returncode, program.EXIT_FINISHED, byPath)
-                self.assertIn(name, byPath.stdout)
-                self.assertHarmless(byPath.stdout + byPath.stderr)
-                target.close()
-                os.rmdir(parent)
+                names.append(self.listed(target)["name"])
+                self.assertEqual(names[-1], shownAs(folder))
+                self.checkListed(target, names[-1])
+                self.checkAsked(names[-1])
+        for (target, folder), name, process in zip(targets, names, self.startErasing(*names)):
+            with self.subTest(folder):
+                self.checkErased(target, name, process)
+        byPath = [self.startProgram("wipe", os.fsencode(target.path), "--method", "1", "--yes")
+                  for target, _ in targets]
+        for folder, name, process in zip(FOLDERS, names, byPath):
+            with self.subTest(folder):
+                code, output, errors = self.finish(process)
+                self.assertEqual(code, program.EXIT_FINISHED, (output, errors))
+                self.assertIn(name, output)
+                self.assertHarmless(output + errors)

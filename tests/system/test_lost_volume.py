@@ -3,19 +3,26 @@
 import json
 import shutil
 import subprocess
+import time
 
 from case import SystemTest, isWriting
 from testkit import program
 
+# So many passes that the first file would not be done for long.
+SLOWEST = "9"
+NOTICED_WITHIN_SECONDS = 10
+
 
 class LostVolume(SystemTest):
     def startedOn(self, target):
-        process = self.startWipe(target)
+        process = self.startWipe(target, SLOWEST)
         program.waitUntil(lambda: isWriting(target, 0), "the first filler file being written")
         return process
 
     def checkFailed(self, process, *words):
+        began = time.monotonic()
         code, output, errors = self.finish(process)
+        self.assertLess(time.monotonic() - began, NOTICED_WITHIN_SECONDS)
         self.assertEqual(code, program.EXIT_FAILED, (output, errors))
         for word in words:
             self.assertIn(word, (output + errors).lower())

@@ -6,6 +6,7 @@ import time
 
 from pulled_case import CLEAN_UP, NOTICED_WITHIN_SECONDS, PHASE_1, PHASE_2, PulledTest
 from testkit import program
+from testkit.fuse_volume import FuseVolume
 
 SLOWEST = "9"
 # A cancel waits eight seconds for a sign of life, the list of volumes and the end of the threads two seconds each.
@@ -17,7 +18,10 @@ class PulledVolume(PulledTest):
         """A run that stops in that phase, and what waits for that."""
         command, waitUntilStopped = self.stopping(
             [program.programPath(), "wipe", target.path, "--method", method, "--yes", "--json"], target, phase)
-        return self.startCommand(command), waitUntilStopped
+        process = self.startCommand(command)
+        if isinstance(target, FuseVolume):  # else a program that it keeps from ending would not end with the test
+            self.addCleanup(target.die)
+        return process, waitUntilStopped
 
     def checkLost(self, phase, mostCovered, method="1"):
         """`mostCovered` is what share of the free space may have been covered."""

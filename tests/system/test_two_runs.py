@@ -3,13 +3,16 @@ from testkit import program
 from testkit.volume import FILLER_BYTES
 
 
+LONG = "5"  # of seven passes
+
+
 class TwoRuns(SystemTest):
     def testTheSecondRunOnAVolumeIsRefusedAndTheFirstOneUnharmed(self):
         for plainUser in (False, True):
             with self.subTest(plainUser=plainUser):
                 target = self.makeVolume("ext4", 300)
                 freeBefore = target.freeBytes()
-                first = self.startWipe(target, plainUser=plainUser)
+                first = self.startWipe(target, LONG, plainUser)
                 program.waitUntil(lambda: isWriting(target, 0), "the first run writing")
                 second = self.runProgram("wipe", target.path, "--method", "1", "--yes", plainUser=plainUser)
                 self.assertRefused(second, "another", "wip")
@@ -21,7 +24,7 @@ class TwoRuns(SystemTest):
 
     def testOfTwoRunsStartedAtTheSameMomentOneIsRefused(self):
         target = self.makeVolume("ext4", 160)
-        runs = [self.startWipe(target), self.startWipe(target)]
+        runs = [self.startWipe(target, LONG), self.startWipe(target, LONG)]
         ended = sorted((self.finish(run) for run in runs), key=lambda result: result[0])
         self.assertEqual([code for code, _, _ in ended], [program.EXIT_FINISHED, program.EXIT_REFUSED], ended)
         self.assertOneLine(ended[1][2], "another", "wip")

@@ -34,11 +34,8 @@ class FuseVolume(Volume):
         self._server.wait()
 
     def hang(self):
-        """From now on nothing on the volume is answered, until `answer`."""
+        """From now on nothing on the volume is answered, until it dies."""
         self._server.send_signal(signal.SIGSTOP)
-
-    def answer(self):
-        self._server.send_signal(signal.SIGCONT)
 
     def close(self):
         if self._server is not None:
