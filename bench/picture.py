@@ -1,8 +1,9 @@
 """When something is on the screen: seen in the file in which the screen's server keeps the pixels."""
 
 import mmap
-import struct
 import time
+
+from testkit.screenshot import Layout
 
 _POLL_SECONDS = 0.0005
 _ACROSS, _DOWN = 40, 20
@@ -12,19 +13,18 @@ _LIMIT_SECONDS = 30
 
 
 class Screen:
-    """What is at some spots of an area, without asking the server. Its format: X11's XWDFile.h."""
+    """What is at some spots of an area, without asking the server."""
 
     def __init__(self, path):
         with open(path, "rb") as file:
             self._pixels = mmap.mmap(file.fileno(), 0, prot=mmap.PROT_READ)
-        header = struct.unpack(">25I", self._pixels[:100])
-        assert header[11] == 32, f"{header[11]} bits per pixel"
-        self._start, self._lineBytes = header[0] + header[19] * 12, header[12]
+        self._layout = Layout(self._pixels)
 
     def spots(self, area):
         """Where to look in `area` (x, y, width, height)."""
         left, top, width, height = area
-        return [self._start + (top + height * (2 * row + 1) // (2 * _DOWN)) * self._lineBytes
+        start, lineBytes = self._layout.start, self._layout.lineBytes
+        return [start + (top + height * (2 * row + 1) // (2 * _DOWN)) * lineBytes
                 + 4 * (left + width * (2 * column + 1) // (2 * _ACROSS))
                 for row in range(_DOWN) for column in range(_ACROSS)]
 

@@ -4,20 +4,27 @@ import struct
 import zlib
 
 
-class _Screen:
-    def __init__(self, path):
-        with open(path, "rb") as file:
-            self._content = file.read()
-        header = struct.unpack(">25I", self._content[:100])  # X11's XWDFile.h
+class Layout:
+    """Where the pixels of such a file are: four bytes each, from `start`, in lines of `lineBytes`."""
+
+    def __init__(self, content):
+        header = struct.unpack(">25I", content[:100])  # X11's XWDFile.h
         headerBytes, colours = header[0], header[19]
-        self._start = headerBytes + colours * 12
-        self._lineBytes = header[12]
+        self.start = headerBytes + colours * 12
+        self.lineBytes = header[12]
         self.width, self.height, bitsPerPixel = header[4], header[5], header[11]
         assert bitsPerPixel == 32, f"{bitsPerPixel} bits per pixel"
 
+
+class _Screen(Layout):
+    def __init__(self, path):
+        with open(path, "rb") as file:
+            self._content = file.read()
+        super().__init__(self._content)
+
     def row(self, line, left, right):
         """The pixels of a line as red, green, blue."""
-        start = self._start + line * self._lineBytes
+        start = self.start + line * self.lineBytes
         pixels = self._content[start + 4 * left:start + 4 * right]
         row = bytearray(3 * (right - left))
         row[0::3], row[1::3], row[2::3] = pixels[2::4], pixels[1::4], pixels[0::4]
