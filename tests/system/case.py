@@ -14,7 +14,7 @@ from testkit.volume import FILLER_BYTES, MEBIBYTE, MEGABYTE, Unavailable, Volume
 
 # Metadata that a run may leave allocated: directory blocks, B-tree nodes.
 FREE_SPACE_SLACK_BYTES = 4 * MEGABYTE
-FILL_TIMEOUT_SECONDS = 120
+FILL_TIMEOUT_SECONDS = 240
 
 
 class SystemTest(unittest.TestCase):
