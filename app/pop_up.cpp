@@ -2,6 +2,7 @@
 
 #include "app/app_delegate.h"
 #include "app/pop_up_place.h"
+#include "ports/controls.h"
 #include "ports/event_loop.h"
 #include "ports/pop_up_window.h"
 
@@ -33,7 +34,8 @@ void AppDelegate::showPopUp(const Colour& colour, const std::string& text, PopUp
   if (closes == PopUpCloses::byItself) schedulePopUpCheck();
   window.moveTo(popUpOrigin(window.screenSize(), window.size()));
   window.setAlertAnimation();
-  window.bringToFront();
+  ports_.controls.activateApplication();
+  window.bringToFront();  // last, so that nothing of the application is above it
 }
 
 // A check that is still pending from an earlier showing is not cancelled.

@@ -128,7 +128,7 @@ void WidgetControls::highlightNothing(Control button) {
 
 void WidgetControls::show(Control control) {
   if (control == Control::buttonProceed) as<QWidget>(Control::proceedBtn)->show();
-  if (control == Control::buttonCancel) window_.leaveCompletionPage();  // a run begins
+  if (control == Control::buttonCancel) startRunsPage();
   if (auto* widget = as<QWidget>(control)) widget->show();
 }
 
@@ -206,7 +206,13 @@ void WidgetControls::setProgressIndeterminate() {
 
 // A bar without a range moves by itself while it is seen.
 void WidgetControls::startProgressAnimation() {
+  setProgressIndeterminate();
+}
+
+// The bar is still as the run before has left it.
+void WidgetControls::startRunsPage() {
   window_.leaveCompletionPage();
+  setProgressIndeterminate();
 }
 
 bool WidgetControls::mainWindowVisible() const {

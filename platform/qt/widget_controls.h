@@ -55,6 +55,8 @@ class WidgetControls : public Controls {
   void makeImmovable(Control window) override;
 
  private:
+  /// The progress page as a run begins with it.
+  void startRunsPage();
   template <typename Kind>
   [[nodiscard]] Kind* as(Control control) const;
 

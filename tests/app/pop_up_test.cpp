@@ -29,11 +29,11 @@ class PopUp : public ::testing::Test {
 
 TEST_F(PopUp, IsPreparedPlacedAndShownInOrder) {
   show();
-  EXPECT_THAT(
-      world.journal.all(),
-      ElementsAre("popUpWindow setText", "popUpWindow setStatusWindowLevel", "popUpWindow setBorderless",
-                  "popUpWindow addTrackingArea", "popUpWindow setFillColour", "startTimer 7000 once",
-                  "popUpWindow moveTo 1140 90", "popUpWindow setAlertAnimation", "popUp 0.25 0.5 0.75 1 \"text\""));
+  EXPECT_THAT(world.journal.all(),
+              ElementsAre("popUpWindow setText", "popUpWindow setStatusWindowLevel", "popUpWindow setBorderless",
+                          "popUpWindow addTrackingArea", "popUpWindow setFillColour", "startTimer 7000 once",
+                          "popUpWindow moveTo 1140 90", "popUpWindow setAlertAnimation", "activateApplication",
+                          "popUp 0.25 0.5 0.75 1 \"text\""));
   EXPECT_TRUE(world.popUp.shown());
 }
 

@@ -6,8 +6,10 @@
 namespace calvero {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::StartsWith;
 using testing::Steps;
 using testing::World;
 
@@ -168,8 +170,10 @@ TEST_F(StartUp, FollowsTheTilesSelectionOnceLaunched) {
 
 TEST(StartUpWithoutVolumes, LaunchesWithAnEmptyPicker) {
   World world;
-  const AppDelegate& app = world.launch();
+  AppDelegate& app = world.create();
+  app.applicationDidFinishLaunching();
   EXPECT_THAT(app.volumes().volumeNameArray, IsEmpty());
+  EXPECT_THAT(world.journal.only({"log"}), Contains(StartsWith("log no volume to describe: ")));
   EXPECT_EQ(world.loop.terminations(), 0);
   EXPECT_TRUE(world.controls.shown(Control::buttonNext));
 }

@@ -159,19 +159,26 @@ void playRefusals(Stage& stage) {
         {ErrorCode::busy, "refused-busy"},
         {ErrorCode::notFound, "refused-not-found"},
         {ErrorCode::notOurs, "refused-not-ours"},
-        {ErrorCode::gone, "refused-gone"},
         {ErrorCode::other, "refused-other"},
     };
-    for (const auto& [code, name] : refusals) {
+    const auto failNextCheck = [&](ErrorCode code) {
       const std::size_t next = stage.files().script.count(FileCall::checkDirectory) + 1;
       stage.files().script.failAt(FileCall::checkDirectory, next, code);
+    };
+    for (const auto& [code, name] : refusals) {
+      failNextCheck(code);
       stage.expectAlert(name);
       stage.click("buttonNext");
       stage.waitForAlerts();
     }
+    stage.click("buttonNext");
+    failNextCheck(ErrorCode::gone);
+    stage.expectAlert("refused-gone");
+    stage.click("proceedBtn");
+    stage.waitForAlerts();
+    stage.click("buttonBack");
     stage.administratorCommand("pkexec /usr/bin/calvero-cli wipe /run/media/ann/Data");
-    stage.files().script.failAt(FileCall::checkDirectory, stage.files().script.count(FileCall::checkDirectory) + 1,
-                                ErrorCode::notPermitted);
+    failNextCheck(ErrorCode::notPermitted);
     stage.expectAlert("refused-but-for-administrator");
     stage.click("buttonNext");
     stage.waitForAlerts();

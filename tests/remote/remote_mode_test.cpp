@@ -134,8 +134,9 @@ TEST_F(RemoteMode, ResetsTheCancelTagBeforeItCancels) {
       ElementsAre("stopTimer", "setTag CVRCANCEL \"0\"", "hide proceedBtn",
                   "setText labelPhase \"Please wait, finishing current process..\"", "setProgressIndeterminate",
                   "detach", "removeLeftDirectory /media/DATA/.$$XE8AQU", "setText tfCleanedSize \"300.00 KB\"",
-                  "startTimer 7000 once", "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"",
-                  "setTag cvrStatus \"3\"", "selectPage 0", "sleep 3", "terminate", "startTimer 60000 repeating"));
+                  "startTimer 7000 once", "activateApplication",
+                  "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"", "setTag cvrStatus \"3\"",
+                  "selectPage 0", "sleep 3", "terminate", "startTimer 60000 repeating"));
 }
 
 TEST_F(RemoteMode, IsCancelledByTheSystemWideNotification) {

@@ -23,12 +23,14 @@ class LostVolume(WindowTest):
                          "readable on it.")
         self.acknowledge(window)
 
-    def checkRefusedNow(self, window, target, words):
+    def checkRefusedNow(self, window, target):
         """The volume is still listed, but takes no further run."""
         self.choose(window, target)
         window.pressButton("Next")
-        self.assertRegex(window.find("dialog", "Information").description, words)
+        window.pressButton("Proceed")
+        self.assertRegex(window.find("dialog", "Information").description, DEAD)
         self.assertRefusal(window)
+        window.pressButton("Back")
         self.assertOnFirstPage(window)
 
     def checkUsableAndEnds(self, window):
@@ -44,7 +46,7 @@ class LostVolume(WindowTest):
         window = self.writing(target)
         target.die()
         self.checkTold(window, target)
-        self.checkRefusedNow(window, target, DEAD)
+        self.checkRefusedNow(window, target)
         self.checkUsableAndEnds(window)
 
     def testAVolumeTakenOutOfTheTreeIsToldAndTheWindowStaysUsable(self):
@@ -62,7 +64,7 @@ class LostVolume(WindowTest):
         window = self.writing(target)
         subprocess.run(["xfs_io", "-x", "-c", "shutdown", target.path], check=True)
         self.checkTold(window, target)
-        self.checkRefusedNow(window, target, DEAD)
+        self.checkRefusedNow(window, target)
         self.checkUsableAndEnds(window)
 
     def testAVolumeThatTurnsReadOnlyIsToldAndTheWindowStaysUsable(self):
@@ -71,7 +73,10 @@ class LostVolume(WindowTest):
         # As the file system itself does on a damaged medium.
         target.remount("abort")
         self.checkTold(window, target)
-        self.checkRefusedNow(window, target, "Read only drive, please select other drives")
+        self.choose(window, target)
+        window.pressButton("Next")
+        self.assertRefusal(window, "Read only drive, please select other drives")
+        self.assertOnFirstPage(window)
         self.checkUsableAndEnds(window)
 
     def testAFillerDirectoryRemovedFromOutsideIsToldAndEndsTheProgram(self):

@@ -135,7 +135,7 @@ TEST_F(Cancellation, InRemoteModeReportsTheAbortAndEndsTheApplicationThreeSecond
   EXPECT_THAT(world.steps(),
               ElementsAre("hide proceedBtn", "setText labelPhase \"Please wait, finishing current process..\"",
                           "setProgressIndeterminate", "detach", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
-                          "setText tfCleanedSize \"300.00 MB\"", "post", "startTimer 7000 once",
+                          "setText tfCleanedSize \"300.00 MB\"", "post", "startTimer 7000 once", "activateApplication",
                           "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"",
                           "setTag cvrStatus \"3\"", "selectPage 0", "sleep 3", "terminate"));
 }

@@ -156,8 +156,8 @@ TEST_F(CleanUp, ReportsAFinishedRemoteRunAndEndsTheApplication) {
   world.app().deleteFiles(*run);
   EXPECT_THAT(world.steps(),
               ElementsAre("releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU", "startTimer 7000 once",
-                          "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"", "sleep 7",
-                          "setTag cvrStatus \"2\"", "terminate"));
+                          "activateApplication", "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"",
+                          "sleep 7", "setTag cvrStatus \"2\"", "terminate"));
 }
 
 TEST_F(CleanUp, EndsAWholeRemoteRunWithoutTheCompletionWindow) {
@@ -165,9 +165,9 @@ TEST_F(CleanUp, EndsAWholeRemoteRunWithoutTheCompletionWindow) {
   world.launch();
   world.runWorker();
   const Steps steps = world.steps();
-  ASSERT_GE(steps.size(), 6U);
-  EXPECT_THAT(Steps(steps.end() - 6, steps.end()),
-              ElementsAre("removeDirectory /media/DATA/.$$XE8AQU", "startTimer 7000 once",
+  ASSERT_GE(steps.size(), 7U);
+  EXPECT_THAT(Steps(steps.end() - 7, steps.end()),
+              ElementsAre("removeDirectory /media/DATA/.$$XE8AQU", "startTimer 7000 once", "activateApplication",
                           "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"", "sleep 7",
                           "setTag cvrStatus \"2\"", "terminate"));
   EXPECT_THAT(world.journal.only({"setText tfCleanedSize", "bringToFront"}), IsEmpty());

@@ -31,7 +31,7 @@ void WizardSession::start() {
   app_.applicationDidFinishLaunching();
   settlePicker();
   if (app_.order().cloudInitiation == 0) {
-    ports_.window.show();
+    ports_.window.bringToFront();
   } else {
     followRun();
   }
@@ -115,9 +115,11 @@ void WizardSession::next() {
            texts.localised("Connect a drive, then press \"Reload Drives\"."));
     return;
   }
-  // A read-only volume is refused by the controller in its own words.
+  // A read-only volume is refused by the controller in its own words. One that gives no answer is accepted here: before
+  // a run it is looked at again.
   const Error error = app_.checkSelectedVolume();
-  if (error.code != ErrorCode::readOnly && isRefused(error)) return;
+  const bool isLeftToLater = error.code == ErrorCode::readOnly || error.code == ErrorCode::gone;
+  if (!isLeftToLater && isRefused(error)) return;
   app_.next();
 }
 
@@ -137,8 +139,9 @@ void WizardSession::completionOk() {
 
 void WizardSession::quit() {
   const bool isRunning = app_.shell().wipingProcessOn != 0 && app_.currentRun()->outcome == RunOutcome::none;
-  // Before a run the controller must know, too: a notice that goes away counts as read.
-  if (isRunning || isAsking_) {
+  // Before a run the controller must know, too: a notice that goes away counts as read. And a clean-up that is waited
+  // for must not be cut off.
+  if (isRunning || isAsking_ || app_.cancelWaits()) {
     app_.cancelProcess();
   } else {
     ports_.loop.terminate();

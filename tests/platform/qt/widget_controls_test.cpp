@@ -97,6 +97,17 @@ TEST_F(WidgetControlsTest, KeepsThePercentageThroughAnIndeterminatePhase) {
   EXPECT_EQ(bar->value(), 40);
 }
 
+TEST_F(WidgetControlsTest, ShowsNoPercentageFromARunsStartUntilItsFilesAreLaidOut) {
+  const auto* bar = find<QProgressBar>("piDataWipe");
+  controls.setProgress(100);
+  controls.show(Control::buttonCancel);
+  EXPECT_EQ(bar->maximum(), 0) << "the page is set up";
+  controls.setProgressDeterminate();
+  controls.startProgressAnimation();
+  EXPECT_EQ(bar->maximum(), 0) << "phase 1 begins";
+  EXPECT_EQ(find<QLabel>("percentLabel")->text(), "");
+}
+
 TEST_F(WidgetControlsTest, TellsOfTheTablesSelectionOnlyWhenTheUserMadeIt) {
   int told = 0;
   window.onTableSelectionChanged = [&] { ++told; };

@@ -2,10 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <syslog.h>
 
+#include <QProgressBar>
 #include <QTableView>
-#include <QTimer>
-#include <csignal>
 
 #include "platform/qt/item_view.h"
 #include "platform/qt/tile_grid.h"
@@ -15,9 +15,9 @@
 namespace calvero {
 namespace {
 
+using ::testing::ElementsAre;
 using testing::FileCall;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 class WindowSession : public testing::WizardFixture {
  protected:
@@ -50,6 +50,22 @@ TEST_F(WindowSession, OpensTheWindowWithTheFirstTileSelectedAndItsVolumeDescribe
   });
 }
 
+TEST_F(WindowSession, BringsTheWindowToTheFrontOnceItIsShown) {
+  class Watch : public QObject {
+   public:
+    bool isRaised = false;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+      const auto* window = static_cast<QWidget*>(watched);
+      if (event->type() == QEvent::ZOrderChange && window->isVisible()) isRaised = true;
+      return false;
+    }
+  };
+  Watch watch;
+  ports.window.installEventFilter(&watch);
+  mountVolume("DATA");
+  use([&] { EXPECT_TRUE(watch.isRaised); });
+}
+
 TEST_F(WindowSession, OpensWithoutAnyVolumeAndNextSaysThatThereIsNothingToErase) {
   use([this] {
     EXPECT_TRUE(ports.window.isVisible());
@@ -66,12 +82,13 @@ TEST_F(WindowSession, OpensWithoutAnyVolumeAndNextSaysThatThereIsNothingToErase)
 }
 
 TEST_F(WindowSession, LogsAnExceptionOfAHandlerAndGoesOn) {
-  mountVolume("DATA");
   use([this] {
-    ports.window.onTableSelectionChanged();
-    app->setCurrentSelection(0);
-    ports.dispatch.run([this] { app->setCurrentSelection(7); });
-    ports.dispatch.run([this] { app->setCurrentSelection(0); });
+    ::openlog("calvero", LOG_PERROR, LOG_USER);  // what is logged goes to the standard error output, too
+    ::testing::internal::CaptureStderr();
+    ports.window.onTableSelectionChanged();  // asks for a volume of the empty list
+    EXPECT_THAT(::testing::internal::GetCapturedStderr(), HasSubstr("calvero: Unexpected failure: "));
+    mountVolume("DATA");
+    reload();
     EXPECT_EQ(text("tfDriveName"), "DATA");
   });
 }
@@ -148,54 +165,6 @@ TEST_F(WindowSession, ListsEachVolumeOnceAfterReloads) {
   });
 }
 
-struct Refusal {
-  ErrorCode code;
-  const char* words;
-};
-
-TEST_F(WindowSession, RefusesAVolumeThatCannotBeErasedAndSaysWhy) {
-  mountVolume("DATA");
-  use([this] {
-    for (const Refusal& refusal :
-         {Refusal{ErrorCode::notPermitted, "You are not allowed to write"},
-          Refusal{ErrorCode::busy, "being erased by another process"},
-          Refusal{ErrorCode::notOurs, "a folder \".$$XE8AQU\" that was not made by Calvero"},
-          Refusal{ErrorCode::gone, "does not respond"}, Refusal{ErrorCode::other, "Unknown Error Occured"}}) {
-      alertText.clear();
-      files.script.failAt(FileCall::checkDirectory, files.script.count(FileCall::checkDirectory) + 1, refusal.code);
-      answerNextAlert();
-      press("buttonNext");
-      EXPECT_THAT(alertText, HasSubstr(refusal.words));
-      EXPECT_EQ(page(), 0);
-    }
-  });
-}
-
-TEST_F(WindowSession, RefusesAVolumeThatWasPulledSinceItWasListed) {
-  mountVolume("DATA");
-  use([this] {
-    unmountVolume("DATA");
-    answerNextAlert();
-    press("buttonNext");
-    EXPECT_THAT(alertText, HasSubstr("not connected any more"));
-    EXPECT_EQ(page(), 0);
-  });
-}
-
-TEST_F(WindowSession, LooksAgainBeforeARunWhetherTheVolumeCanBeErased) {
-  mountVolume("DATA");
-  use([this] {
-    press("buttonNext");
-    ASSERT_EQ(page(), 1);
-    files.script.failAt(FileCall::checkDirectory, files.script.count(FileCall::checkDirectory) + 1, ErrorCode::busy);
-    answerNextAlert();
-    press("proceedBtn");
-    EXPECT_THAT(alertText, HasSubstr("being erased by another process"));
-    EXPECT_EQ(page(), 1);
-    EXPECT_EQ(app->shell().wipingProcessOn, 0);
-  });
-}
-
 TEST_F(WindowSession, ShowsTheCompletionWindowOfAFinishedRunAndReturnsWithItsOk) {
   mountVolume("DATA");
   use([this] {
@@ -261,70 +230,32 @@ TEST_F(WindowSession, TellsAVolumeThatWasLostBetweenTwoFilesAndListsTheDrivesAne
   });
 }
 
-TEST_F(WindowSession, CancelsFromTheProgressPageAndRunsAgain) {
-  mountVolume("DATA", 40'000'000);
-  use([this] {
-    startRunAndHoldIt();
-    answerNextAlert();
-    press("cancelBut");
-    EXPECT_THAT(alertText, HasSubstr("Wiping process aborted"));
-    ASSERT_TRUE(comesTrue([this] { return page() == 0 && app->shell().wipingProcessOn == 0; }));
-    EXPECT_FALSE(files.directoryExists("/media/DATA/.$$XE8AQU"));
-    press("buttonNext");
-    EXPECT_TRUE(named<QWidget>("proceedBtn")->isVisible()) << "hidden by the cancel";
-  });
-}
-
-TEST_F(WindowSession, RefusesToCloseDuringARunAndEndsTheProgramAfterwards) {
-  mountVolume("DATA", 40'000'000);
-  use([this] {
-    startRunAndHoldIt();
-    answerNextAlert();
-    EXPECT_FALSE(ports.window.close());
-    EXPECT_THAT(alertText, HasSubstr("Wiping process is On"));
-    EXPECT_TRUE(ports.window.isVisible());
-    EXPECT_FALSE(app->currentRun()->stopRequested());
-    answerNextAlert();
-    press("cancelBut");
-    ASSERT_TRUE(comesTrue([this] { return app->shell().wipingProcessOn == 0; }));
-    EXPECT_TRUE(ports.window.close());
-  });
-}
-
-TEST_F(WindowSession, CancelsTheRunAndEndsAtASignal) {
-  mountVolume("DATA", 40'000'000);
-  bool wentOn = false;
-  use([&] {
-    startRunAndHoldIt();
-    std::raise(SIGTERM);
-    wentOn = comesTrue([this] { return app->currentRun()->outcome == RunOutcome::cancelled; });
-  });
-  EXPECT_TRUE(wentOn);
-  release();
-  EXPECT_TRUE(ports.threads.waitForAll(std::chrono::seconds(20)));
-  EXPECT_FALSE(files.directoryExists("/media/DATA/.$$XE8AQU"));
-  EXPECT_THAT(alertText, Not(HasSubstr("aborted"))) << "nobody may be there to answer";
-}
-
-TEST_F(WindowSession, StartsNoRunWhenASignalEndsTheProgramDuringTheNotice) {
+TEST_F(WindowSession, ShowsThatPhaseOneGoesOnWithoutAFigureAlsoAfterAFinishedRun) {
   mountVolume("DATA");
-  QTimer signalling;
-  QObject::connect(&signalling, &QTimer::timeout, [&] {
-    if (alertText.empty() || QApplication::activeModalWidget() == nullptr) return;  // the question is not answered yet
-    signalling.stop();
-    std::raise(SIGTERM);
-  });
+  const auto* bar = named<QProgressBar>("piDataWipe");
+  std::vector<int> inPhaseOne;
   use([&] {
-    press("buttonNext");
-    answerNextAlert();  // YES
-    signalling.start(std::chrono::milliseconds(5));
-    press("proceedBtn");
+    for (int run = 0; run < 2; ++run) {
+      std::promise<void> seen;
+      const auto isSeen = seen.get_future().share();
+      std::atomic<bool> isLayingOut{false};
+      files.script.before(FileCall::createFile, files.script.count(FileCall::createFile) + 1, [&] {
+        isLayingOut = true;
+        isSeen.wait();
+      });
+      startRun();
+      EXPECT_TRUE(comesTrue([&] { return isLayingOut && text("labelPhase") == "Phase 1: Analyzing Data.."; }));
+      inPhaseOne.push_back(bar->maximum());
+      EXPECT_EQ(text("percentLabel"), "");
+      seen.set_value();
+      ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
+      EXPECT_EQ(bar->maximum(), 100);
+      EXPECT_EQ(text("percentLabel"), "100%");
+      QTest::keyClick(&completed(), Qt::Key_Return);
+      ASSERT_TRUE(comesTrue([this] { return page() == 0; }));
+    }
   });
-  EXPECT_THAT(alertText, HasSubstr("Are you sure"));
-  EXPECT_FALSE(signalling.isActive()) << "the notice was shown";
-  EXPECT_EQ(app->shell().wipingProcessOn, 0);
-  EXPECT_EQ(files.script.count(FileCall::pwrite), 0U);
-  EXPECT_FALSE(files.directoryExists("/media/DATA/.$$XE8AQU"));
+  EXPECT_THAT(inPhaseOne, ElementsAre(0, 0));
 }
 
 TEST_F(WindowSession, LeavesTheWindowHiddenInRemoteMode) {
