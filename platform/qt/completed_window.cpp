@@ -36,8 +36,9 @@ void CompletedWindow::setOutcome(const QString& text, OutcomeKind kind) {
   setFixedSize(fitting.width(), layout()->totalHeightForWidth(fitting.width()));
 }
 
-void CompletedWindow::setOkTitle(const std::string& title) {
+void CompletedWindow::setOkTexts(const std::string& title, const std::string& description) {
   ui_->completedOk->setText(asTitle(title));
+  ui_->completedOk->setAccessibleDescription(toText(description));
 }
 
 void CompletedWindow::reject() {

@@ -30,7 +30,7 @@ class CompletedWindow : public QDialog {
   std::function<void()> onOk;
 
   void setOutcome(const QString& text, OutcomeKind kind);
-  void setOkTitle(const std::string& title);
+  void setOkTexts(const std::string& title, const std::string& description);
 
   /// Enter does what Escape does: there is only one answer.
   void accept() override { reject(); }

@@ -31,7 +31,7 @@ void MainWindow::setTexts(const Localisation& localisation) {
   setName(ui_->twitterButton, localisation.localised("Twitter"));
   setName(ui_->googlePlusButton, localisation.localised("Google+"));
   ui_->completionPageOk->setText(asTitle(localisation.localised("OK")));
-  completed_->setOkTitle(localisation.localised("OK"));
+  completed_->setOkTexts(localisation.localised("OK"), localisation.localised("Returns to the drives."));
   ui_->volumeHeading->setText(toText(localisation.localised("Select a drive")));
   ui_->noDrivesTitle->setText(toText(localisation.localised("No drives found")));
   ui_->noDrivesHint->setText(toText(localisation.localised("Connect a drive, then press \"Reload Drives\".")));
@@ -81,8 +81,11 @@ void MainWindow::describeControls(const Localisation& localisation) {
   for (QWidget* link : {ui_->facebookButton, ui_->twitterButton, ui_->googlePlusButton}) {
     describe(link, localisation.localised("Opens the page in the web browser."));
   }
-  ui_->piDataWipe->setAccessibleName(toText(localisation.localised("Progress")));
-  ui_->progressPage->setAccessibleName(toText(localisation.localised("Progress")));
+  for (QWidget* progress : {static_cast<QWidget*>(ui_->piDataWipe), ui_->progressPage}) {
+    progress->setAccessibleName(toText(localisation.localised("Progress")));
+    progress->setAccessibleDescription(toText(localisation.localised("Erasing free space data securely")));
+  }
+  describe(ui_->completionPageOk, localisation.localised("Returns to the drives."));
 }
 
 void MainWindow::setSizeFormatter(std::function<std::string(std::uint64_t)> format) {

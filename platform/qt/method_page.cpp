@@ -22,6 +22,15 @@ constexpr std::array<const char*, MethodPage::kMethods> kButtonNames{
 // From the top of the page to its end: the tiers go by the number of passes.
 constexpr std::array<std::size_t, MethodPage::kMethods> kOnPage{0, 1, 3, 6, 2, 4, 5, 7, 8};
 
+/// The caption that stands above the method on the page.
+const char* tierOf(std::size_t method) {
+  constexpr std::ptrdiff_t kMedium = 4;
+  constexpr std::ptrdiff_t kHigh = 7;
+  const auto place = std::find(kOnPage.begin(), kOnPage.end(), method) - kOnPage.begin();
+  if (place < kMedium) return "low";
+  return place < kHigh ? "medium" : "high";
+}
+
 }  // namespace
 
 void MethodPage::bind() {
@@ -62,9 +71,10 @@ void MethodPage::refresh() {
     const QString explanation = passes_[i] == 0 ? withoutPasses_ : QString();
     findChild<QLabel*>(QStringLiteral("passes_%1").arg(i + 1))->setText(passes);
     buttons_[i]->setAccessibleName(labels_[i]->label() + QStringLiteral(", ") + passes);
-    buttons_[i]->setAccessibleDescription(explanation);
-    labels_[i]->setAccessibleDescription(explanation);
+    const QString tier = findChild<QLabel*>(tierOf(i))->text();
+    const QString description = tier + ", " + passes + (explanation.isEmpty() ? QString() : ". " + explanation);
     for (QWidget* widget : {static_cast<QWidget*>(buttons_[i]), static_cast<QWidget*>(labels_[i])}) {
+      widget->setAccessibleDescription(description);
       widget->setToolTip(plainToolTip(explanation));
     }
   }

@@ -28,7 +28,7 @@ class MethodPage : public QWidget {
   void setPasses(const std::array<int, kMethods>& passes);
   /// How a number of passes is written, "%1" standing for it, and what is told about a method without any.
   void setTexts(const QString& passes, const QString& withoutPasses);
-  /// The labels have new texts.
+  /// The labels or the captions above them have new texts.
   void refresh();
   /// Keyboard to the slot that is on.
   void focusCurrent();

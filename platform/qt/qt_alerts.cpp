@@ -25,6 +25,8 @@ namespace {
 constexpr int kFewest = 40;
 constexpr int kMost = 60;
 
+constexpr const char* kCopyButton = "alertCopyButton";
+
 struct Texts {
   QString heading;
   QString details;
@@ -99,7 +101,7 @@ QLineEdit* newCommandLine(const std::string& command, const std::string& caption
 }
 
 void addCopyButton(QDialogButtonBox& box, const std::string& text, QLineEdit* line) {
-  QPushButton* button = addButton(box, text, QDialogButtonBox::ActionRole, "alertCopyButton");
+  QPushButton* button = addButton(box, text, QDialogButtonBox::ActionRole, kCopyButton);
   QObject::connect(button, &QPushButton::clicked, line, [line] {
     QGuiApplication::clipboard()->setText(line->text());
     line->selectAll();  // shows that something has been done
@@ -127,6 +129,20 @@ void layOut(QDialog& dialog, const Alert& alert, QLineEdit* command, QDialogButt
   layout->setRowMinimumHeight(3, kAboveButtons);
   layout->addWidget(buttons, 4, 0, 1, 2);
   layout->activate();  // the window is made in its size, not brought to it once it is seen
+}
+
+/// The toolkit's own menus for texts are in English, whatever the language.
+void leaveOutContextMenus(const QDialog& dialog) {
+  for (QWidget* widget : dialog.findChildren<QWidget*>()) widget->setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+/// What is answered, and what is copied.
+void describeControls(const QDialog& dialog, const Alert& alert, const std::string& command) {
+  const QString asked = withTrimmedLines(QString::fromStdString(alert.message.empty() ? alert.title : alert.message));
+  for (QPushButton* button : dialog.findChildren<QPushButton*>()) button->setAccessibleDescription(asked);
+  if (auto* line = dialog.findChild<QLineEdit*>()) line->setAccessibleDescription(asked);
+  auto* copying = dialog.findChild<QPushButton*>(kCopyButton);
+  if (copying != nullptr) copying->setAccessibleDescription(QString::fromStdString(command));
 }
 
 }  // namespace
@@ -161,7 +177,9 @@ AlertAnswer QtAlerts::show(const Alert& alert, const std::string& command) {
     answer = AlertAnswer::defaultButton;
     dialog->accept();
   });
+  describeControls(*dialog, alert, command);
   layOut(*dialog, alert, commandLine, buttons);
+  leaveOutContextMenus(*dialog);
   defaultButton->setDefault(true);
   defaultButton->setFocus();
 

@@ -50,6 +50,10 @@ bool isLabel(Control control) {
   return control >= Control::algorithm_1 && control <= Control::algorithm_9;
 }
 
+bool isTier(Control control) {
+  return control == Control::low || control == Control::medium || control == Control::high;
+}
+
 bool isSelectionButton(Control control) {
   return control >= Control::butFastZeroWipe && control <= Control::butNINTH_ALGO;
 }
@@ -112,7 +116,7 @@ Kind* WidgetControls::as(Control control) const {
 void WidgetControls::setText(Control control, const std::string& text) {
   if (auto* label = as<QLabel>(control)) label->setText(toText(text));
   if (auto* button = as<QAbstractButton>(control)) button->setText(asTitle(text));
-  if (isLabel(control)) window_.methods().refresh();
+  if (isLabel(control) || isTier(control)) window_.methods().refresh();
   for (const CaptionedField& pair : kCaptionedFields) {
     if (pair.caption == control) as<QWidget>(pair.field)->setAccessibleDescription(toText(text).trimmed());
   }

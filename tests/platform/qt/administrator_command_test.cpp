@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -77,6 +78,18 @@ TEST_F(AdministratorCommandInWindow, IsCopiedByItsButtonWhichKeepsTheDialog) {
       EXPECT_EQ(lineOf(dialog)->selectedText(), kCommand);
     });
     EXPECT_EQ(QGuiApplication::clipboard()->text(), kCommand);
+  });
+}
+
+TEST_F(AdministratorCommandInWindow, HasNoMenuOfTheToolkitsInAnotherLanguage) {
+  use([this] {
+    refuse([](QDialog& dialog) {
+      for (QWidget* widget : dialog.findChildren<QWidget*>()) {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), widget->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(widget, &event);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << widget->metaObject()->className();
+      }
+    });
   });
 }
 

@@ -12,7 +12,7 @@ class CompletedWindowTest : public ::testing::Test {
  protected:
   CompletedWindowTest() {
     window.onOk = [this] { ++pressed; };
-    window.setOkTitle("OK");
+    window.setOkTexts("OK", "Goes back.");
   }
 
   QWidget main;

@@ -190,16 +190,6 @@ TEST_F(MainWindowTest, SaysSoWhenThereIsNoDrive) {
   EXPECT_TRUE(find("noDrives")->isVisible());
 }
 
-TEST_F(MainWindowTest, ExplainsItsButtonsToAssistiveTechnology) {
-  for (const char* button :
-       {"buttonNext", "buttonBack", "proceedBtn", "cancelBut", "reloadDrivers", "buttonHome", "helpButton", "getItNow",
-        "buttonCloud", "facebookButton", "twitterButton", "googlePlusButton"}) {
-    EXPECT_FALSE(find(button)->accessibleDescription().isEmpty()) << button;
-  }
-  EXPECT_EQ(find("piDataWipe")->accessibleName(), "Progress");
-  EXPECT_EQ(find("googlePlusButton")->accessibleName(), "Google+");
-}
-
 TEST_F(MainWindowTest, LeadsTheTabKeyThroughThePageAndThenThroughTheSideBar) {
   const auto way = [&](int steps) {
     std::vector<std::string> names;
