@@ -6,10 +6,11 @@
 #include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
 #include <QVariantMap>
+
+#include "platform/suite/suite_folder.h"
 
 namespace calvero {
 namespace {
@@ -58,7 +59,7 @@ std::string DesktopWorkspace::bundlePath() const {
 }
 
 std::string DesktopWorkspace::applicationSupportFolder() const {
-  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
+  return userDataFolder();
 }
 
 }  // namespace calvero

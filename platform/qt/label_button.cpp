@@ -8,7 +8,7 @@
 namespace calvero {
 namespace {
 
-constexpr int kMargin = 3;
+constexpr int kAboveText = 3;
 constexpr int kIndent = 4;
 constexpr Qt::Alignment kAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 
@@ -33,15 +33,16 @@ void LabelButton::setFramed(bool framed) {
 }
 
 int LabelButton::heightForWidth(int width) const {
-  return WrappedText(label(), *this, kAlignment, width - 2 * kIndent).height() + 2 * kMargin;
+  return WrappedText(label(), *this, kAlignment, width - 2 * kIndent).height() + 2 * kAboveText;
 }
 
 QSize LabelButton::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(label()) + 2 + 2 * kIndent, fontMetrics().height() + 2 * kMargin};
+  return {fontMetrics().horizontalAdvance(label()) + 2 + 2 * kIndent, fontMetrics().height() + 2 * kAboveText};
 }
 
 QSize LabelButton::minimumSizeHint() const {
-  return {WrappedText::widthOfLongestWord(label(), fontMetrics()) + 2 * kIndent, fontMetrics().height() + 2 * kMargin};
+  return {WrappedText::widthOfLongestWord(label(), fontMetrics()) + 2 * kIndent,
+          fontMetrics().height() + 2 * kAboveText};
 }
 
 void LabelButton::paintEvent(QPaintEvent*) {

@@ -11,6 +11,7 @@
 #include "app/program_entry.h"
 #include "platform/linux/process_limits.h"
 #include "platform/qt/desktop_workspace.h"
+#include "platform/qt/display.h"
 #include "platform/qt/stored_defaults.h"
 #include "platform/qt/suite_addresses.h"
 #include "platform/qt/translations.h"
@@ -31,27 +32,9 @@ void printError(const std::string& text) {
   std::fprintf(stderr, "calvero: %s\n", text.c_str());
 }
 
-bool isSet(const char* variable) {
-  const char* value = std::getenv(variable);
-  return value != nullptr && *value != '\0';
-}
-
-/// Qt's own stand-in for a display, which shows nothing.
-constexpr const char* kNoDisplay = "offscreen";
-
-/// Qt ends the process where it finds none of the displays that it may use, so that the last of them is none at all.
-void chooseDisplay() {
-  constexpr const char* kChoice = "QT_QPA_PLATFORM";
-  if (isSet(kChoice)) return;
-  std::string displays = kNoDisplay;
-  if (isSet("DISPLAY")) displays = "xcb;" + displays;
-  if (isSet("WAYLAND_DISPLAY")) displays = "wayland;" + displays;
-  qputenv(kChoice, QByteArray::fromStdString(displays));
-}
-
 /// A wipe that was ordered needs no display; a person does.
 bool canBeUsed(Authentication& authentication) {
-  return QGuiApplication::platformName() != kNoDisplay || authentication.GetValueForTag(kTagOnline) == "1";
+  return !isWithoutDisplay() || authentication.GetValueForTag(kTagOnline) == "1";
 }
 
 int showWindow(int argumentCount, char** arguments) {

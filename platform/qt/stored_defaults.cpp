@@ -18,12 +18,4 @@ void StoredDefaults::synchronise() {
   settings_.sync();
 }
 
-std::vector<std::string> StoredDefaults::texts(const std::string& key) const {
-  std::vector<std::string> values;
-  for (const QString& value : settings_.value(QString::fromStdString(key)).toStringList()) {
-    values.push_back(value.toStdString());
-  }
-  return values;
-}
-
 }  // namespace calvero

@@ -14,9 +14,6 @@ class StoredDefaults : public UserDefaults {
   void setTexts(const std::string& key, const std::vector<std::string>& values) override;
   void synchronise() override;
 
-  /// What the key holds; nothing for an unknown one.
-  [[nodiscard]] std::vector<std::string> texts(const std::string& key) const;
-
  private:
   QSettings settings_;
 };

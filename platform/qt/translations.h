@@ -17,10 +17,8 @@ class Translations : public Localisation {
 
   [[nodiscard]] std::string localised(const std::string& key) const override;
 
-  /// The language that is read: English where the one asked for has no table.
-  [[nodiscard]] const QLocale& locale() const { return locale_; }
-
-  /// Makes the language the application's, with its direction of writing. Event loop thread.
+  /// Makes the language that is read the application's, with its direction of writing: English where the one asked for
+  /// has no table. Event loop thread.
   void install() const;
 
  private:

@@ -21,7 +21,6 @@ void VolumePage::bind() {
   table_->setModel(tableModel_);
   table_->horizontalHeader()->setStretchLastSection(true);
   table_->verticalHeader()->hide();
-  table_->hide();
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     if (tells_ && onTableSelectionChanged) onTableSelectionChanged();
   });
@@ -29,7 +28,6 @@ void VolumePage::bind() {
 }
 
 void VolumePage::setTableHeading(const QString& heading) {
-  tableHeading_ = heading;
   tableModel_->setHorizontalHeaderLabels({heading});
 }
 

@@ -45,7 +45,6 @@ class VolumePage : public QWidget {
   TileGrid* tiles_ = nullptr;
   QStandardItemModel* tileModel_ = nullptr;
   QStandardItemModel* tableModel_ = nullptr;
-  QString tableHeading_;
   bool tells_ = true;  // whether the user changes the table's selection
 };
 

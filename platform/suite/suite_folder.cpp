@@ -51,8 +51,4 @@ std::string tagStorePath() {
   return given.empty() ? inFolder(suiteFolder(), "tags.sqlite") : given;
 }
 
-std::string informationFilePath() {
-  return inFolder(suiteFolder(), "infoMaster.plist");
-}
-
 }  // namespace calvero

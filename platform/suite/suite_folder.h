@@ -15,7 +15,4 @@ std::string suiteFolder();
 /// Empty when there is no place for it.
 std::string tagStorePath();
 
-/// The file "infoMaster.plist" in the suite's folder. Empty when there is no place for it.
-std::string informationFilePath();
-
 }  // namespace calvero

@@ -70,9 +70,11 @@ class CommandLine(WindowTest):
                 if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
 
     def testWithoutADisplayItNamesTheTerminalsProgram(self):
-        ended = self.started(env=self.withoutDisplay())
-        self.assertEqual((ended.returncode, ended.stdout), (1, ""))
-        self.assertOneLine(ended.stderr, "display", "calvero-cli")
+        for chosen in ({}, {"QT_QPA_PLATFORM": "offscreen"}, {"QT_QPA_PLATFORM": "minimal"}):
+            with self.subTest(chosen):
+                ended = self.started(env=self.withoutDisplay() | chosen)
+                self.assertEqual((ended.returncode, ended.stdout), (1, ""))
+                self.assertOneLine(ended.stderr, "display", "calvero-cli")
 
     def testAWrongArgumentIsToldInOneLine(self):
         for arguments in (["--nonsense"], ["/"], ["wipe", "/"]):

@@ -1,12 +1,12 @@
 #include "platform/qt/wizard/wizard_ports.h"
 
-#include <QGuiApplication>
 #include <array>
 
 #include "app/app_delegate.h"
 #include "methods/method_catalogue.h"
 #include "platform/linux/administrator.h"
 #include "platform/linux/program_search.h"
+#include "platform/qt/display.h"
 #include "wipe/filler_names.h"
 
 namespace calvero {
@@ -16,12 +16,6 @@ std::array<int, kMethodCount> passesOfTheMethods() {
   std::array<int, kMethodCount> passes{};
   for (const EraseMethod& method : kMethodCatalogue) passes.at(static_cast<std::size_t>(method.number)) = method.passes;
   return passes;
-}
-
-/// Qt's own stand-ins for a display show nothing.
-bool isWithoutDisplay() {
-  const QString platform = QGuiApplication::platformName();
-  return platform == "offscreen" || platform == "minimal";
 }
 
 std::optional<std::string> terminalProgram() {

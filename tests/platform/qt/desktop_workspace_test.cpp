@@ -16,6 +16,8 @@
 #include <QTextBrowser>
 #include <array>
 
+#include "platform/suite/suite_folder.h"
+
 namespace calvero {
 namespace {
 
@@ -83,12 +85,17 @@ TEST(DesktopWorkspace, LaunchingWhatIsNoProgramIsNotAFailure) {
   for (const char* path : {"", "/", "/no/such/program", "/etc/passwd"}) workspace.launchApplication(path);
 }
 
-TEST(DesktopWorkspace, KnowsItsOwnPlaceAndTheUsersFolder) {
-  const DesktopWorkspace workspace;
-  EXPECT_EQ(workspace.bundlePath(), QFileInfo("/proc/self/exe").canonicalFilePath().toStdString());
-  EXPECT_EQ(workspace.applicationSupportFolder(),
-            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString());
-  EXPECT_TRUE(workspace.applicationSupportFolder().starts_with('/'));
+TEST(DesktopWorkspace, KnowsItsOwnPlace) {
+  EXPECT_EQ(DesktopWorkspace().bundlePath(), QFileInfo("/proc/self/exe").canonicalFilePath().toStdString());
+}
+
+TEST(DesktopWorkspace, HasTheUsersFolderInWhichTheSuiteKeepsItsFiles) {
+  const QByteArray before = qgetenv("XDG_DATA_HOME");
+  for (const char* given : {"/data/ann", "data", ""}) {
+    qputenv("XDG_DATA_HOME", given);
+    EXPECT_EQ(DesktopWorkspace().applicationSupportFolder(), userDataFolder()) << given;
+  }
+  before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
 }
 
 // ThreadSanitizer does not see the locks between Qt and the thread that Qt serves a bus with.

@@ -15,6 +15,14 @@ class StoredDefaultsTest : public ::testing::Test {
  protected:
   StoredDefaultsTest() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path()); }
 
+  /// As another program of the desktop reads them.
+  static Texts read(const char* key) {
+    const QSettings settings(QSettings::IniFormat, QSettings::UserScope, "Ondrel Software", "Calvero");
+    Texts texts;
+    for (const QString& text : settings.value(key).toStringList()) texts.push_back(text.toStdString());
+    return texts;
+  }
+
   QTemporaryDir folder;
 };
 
@@ -24,7 +32,7 @@ TEST_F(StoredDefaultsTest, OneTextReadsBackAsAListOfOne) {
     defaults.setTexts("AppleLanguages", {"de"});
     defaults.synchronise();
   }
-  EXPECT_EQ(StoredDefaults().texts("AppleLanguages"), Texts{"de"});
+  EXPECT_EQ(read("AppleLanguages"), Texts{"de"});
 }
 
 TEST_F(StoredDefaultsTest, TextsReadBackAsTheyAre) {
@@ -34,12 +42,8 @@ TEST_F(StoredDefaultsTest, TextsReadBackAsTheyAre) {
       StoredDefaults defaults;
       defaults.setTexts("key", texts);
     }
-    EXPECT_EQ(StoredDefaults().texts("key"), texts);
+    EXPECT_EQ(read("key"), texts);
   }
-}
-
-TEST_F(StoredDefaultsTest, AnUnknownKeyHoldsNothing) {
-  EXPECT_EQ(StoredDefaults().texts("AppleLanguages"), Texts{});
 }
 
 TEST_F(StoredDefaultsTest, SynchronisingWritesTheUsersFileAtOnce) {
@@ -54,7 +58,7 @@ TEST_F(StoredDefaultsTest, SynchronisingWritesTheUsersFileAtOnce) {
 TEST_F(StoredDefaultsTest, WhatElseTheFileHoldsStays) {
   StoredDefaults().setTexts("other", {"kept"});
   StoredDefaults().setTexts("AppleLanguages", {"en"});
-  EXPECT_EQ(StoredDefaults().texts("other"), Texts{"kept"});
+  EXPECT_EQ(read("other"), Texts{"kept"});
 }
 
 TEST_F(StoredDefaultsTest, AFileThatCannotBeWrittenIsNotAFailure) {
@@ -63,7 +67,6 @@ TEST_F(StoredDefaultsTest, AFileThatCannotBeWrittenIsNotAFailure) {
   StoredDefaults defaults;
   defaults.setTexts("AppleLanguages", {"de"});
   defaults.synchronise();
-  EXPECT_EQ(defaults.texts("AppleLanguages"), Texts{"de"});
   EXPECT_TRUE(QFileInfo(blocker).isFile());
 }
 

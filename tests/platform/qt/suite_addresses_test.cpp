@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <vector>
 
 #include "ports/workspace.h"
@@ -73,9 +74,13 @@ TEST_F(SuiteAddressesTest, TheFileThatIsCompiledInNamesEveryPageAndThePortal) {
   SuiteAddresses suite(workspace);
   for (const std::int32_t index : {0, 1, 2, 3, 4}) suite.openPage(index);
   ASSERT_EQ(workspace.opened.size(), 4U);
-  for (const std::string& address : workspace.opened) EXPECT_TRUE(address.starts_with("https://")) << address;
-  EXPECT_TRUE(suite.portalLoginAddress().starts_with("https://"));
   EXPECT_TRUE(suite.portalLoginAddress().ends_with("/login?"));
+  workspace.opened.push_back(suite.portalLoginAddress());
+  for (const std::string& address : workspace.opened) {
+    const QUrl url(QString::fromStdString(address));
+    EXPECT_EQ(url.scheme(), "https") << address;
+    EXPECT_TRUE(url.host().endsWith(".example")) << address;
+  }
 }
 
 }  // namespace

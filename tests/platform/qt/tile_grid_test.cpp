@@ -200,5 +200,26 @@ TEST_F(TileGridTest, RestsWhileAnotherPageIsShown) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return grid().clock().isRunning(); }, kWaitMilliseconds));
 }
 
+TEST_F(TileGridTest, ShowsAnotherPictureForEachKindOfDrive) {
+  const auto add = [this](bool local, bool removable) {
+    MountedVolume drive = volume("A");
+    drive.local = local;
+    drive.removable = removable;
+    controls.addTile(drive);
+  };
+  add(true, false);
+  add(true, true);
+  add(false, false);
+  add(false, true);
+  show();
+  controls.selectPage(Page::method);  // no tile has the keyboard
+  std::vector<QImage> pictures;
+  for (std::size_t i = 0; i < grid().count(); ++i) pictures.push_back(grid().tile(i)->grab().toImage());
+  EXPECT_NE(pictures[0], pictures[1]) << "fixed and removable";
+  EXPECT_NE(pictures[0], pictures[2]) << "fixed and network";
+  EXPECT_NE(pictures[1], pictures[2]) << "removable and network";
+  EXPECT_EQ(pictures[2], pictures[3]) << "a network drive, whatever its medium";
+}
+
 }  // namespace
 }  // namespace calvero::testing

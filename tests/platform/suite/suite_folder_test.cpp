@@ -24,9 +24,8 @@ TEST_F(SuiteFolder, IsInTheUsersDataFolder) {
   EXPECT_EQ(suiteFolder(), "/data/ann/Ondrel Software/Ondrel MORE");
 }
 
-TEST_F(SuiteFolder, HoldsTheTagStoreAndTheInformationFile) {
+TEST_F(SuiteFolder, HoldsTheTagStore) {
   EXPECT_EQ(tagStorePath(), "/home/ann/.local/share/Ondrel Software/Ondrel MORE/tags.sqlite");
-  EXPECT_EQ(informationFilePath(), "/home/ann/.local/share/Ondrel Software/Ondrel MORE/infoMaster.plist");
 }
 
 TEST_F(SuiteFolder, IsInTheHomeFolderWhenTheDataFolderIsNoAbsolutePath) {
@@ -49,7 +48,7 @@ TEST_F(SuiteFolder, IsInTheHomeOfThePasswordDatabaseWhenTheEnvironmentNamesNone)
 TEST_F(SuiteFolder, GivesWayToTheTagStoreThatTheEnvironmentNames) {
   const EnvironmentVariable store("CALVERO_TAG_STORE", "/elsewhere/my tags");
   EXPECT_EQ(tagStorePath(), "/elsewhere/my tags");
-  EXPECT_EQ(informationFilePath(), "/home/ann/.local/share/Ondrel Software/Ondrel MORE/infoMaster.plist");
+  EXPECT_EQ(suiteFolder(), "/home/ann/.local/share/Ondrel Software/Ondrel MORE");
 }
 
 TEST_F(SuiteFolder, StaysThePlaceOfTheTagStoreWhenTheVariableIsEmpty) {
