@@ -41,9 +41,15 @@ class SystemTest(unittest.TestCase):
         return made
 
     def programFor(self, plainUser):
+        return self._pathFor(program.programPath(), plainUser)
+
+    def windowProgramFor(self, plainUser):
+        return self._pathFor(program.windowProgramPath(), plainUser)
+
+    def _pathFor(self, path, plainUser):
         if not plainUser:
-            return program.programPath()
-        copy = program.PublicCopy()
+            return path
+        copy = program.PublicCopy(path)
         self.addCleanup(copy.remove)
         return copy.path
 

@@ -105,13 +105,6 @@ class RemoteTest(SystemTest):
         self.addCleanup(order.close)
         return order
 
-    def windowProgramFor(self, plainUser=False):
-        if not plainUser:
-            return program.windowProgramPath()
-        copy = program.PublicCopy(program.windowProgramPath())
-        self.addCleanup(copy.remove)
-        return copy.path
-
     def startOrder(self, target, method="1", **options):
         order = self.makeOrder(target, method, **options)
         order.start([self.windowProgramFor(order.plainUser)])
@@ -133,7 +126,7 @@ class RemoteTest(SystemTest):
     def startWithBus(self, target, method="1"):
         order = self.makeOrder(target, method)
         self.startBus(order)
-        order.start([self.windowProgramFor()])
+        order.start([self.windowProgramFor(order.plainUser)])
         return order
 
     def waitUntilWriting(self, target, seconds=60):

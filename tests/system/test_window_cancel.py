@@ -1,10 +1,12 @@
 """What stops a run, or keeps it from starting, and what the same window can do afterwards."""
 
-from case import everything
+from case import everything, fillerNames
 from testkit import program
 from testkit.marks import KeptFiles
+from testkit.volume import MEBIBYTE
 from window_case import FAST, PHASE_1, QUESTION, REQUEST, WindowTest, runThreads
 
+TEBIBYTE_IN_MEBIBYTES = 1 << 20
 ABORTED = ("Information", "Wiping process aborted")
 
 
@@ -45,16 +47,19 @@ class Cancel(WindowTest):
         self.assertEqual(kept.differences(), [])
 
     def testACancelWhileFilesAreLaidOutEndsTheProgramAndLeavesNothing(self):
-        target = self.makeVolume("ext4", 64)
+        # So many filler files that it takes seconds to lay them out.
+        target = self.makeVolume("xfs", 2 * TEBIBYTE_IN_MEBIBYTES, neededBytes=400 * MEBIBYTE,
+                                 mkfsOptions=("-l", "size=64m"))
         freeBefore = target.freeBytes()
         window = self.startWindow()
         self.toMethods(window, target)
         self.proceed(window)
         self.answer(window, REQUEST)
         window.find("label", PHASE_1)
+        program.waitUntil(lambda: fillerNames(target), "the first filler files")
         window.pressButton("Cancel")
-        window.find("dialog", *ABORTED)
-        error = window.find("dialog", "Information", "Unknown Error Occured")
+        # Above or in place of the cancel's own alert, whichever comes first.
+        error = window.find("dialog", "Information", "Unknown Error Occured", timeout=20)
         window.pressButton("Relaunch the application", within=error)
         self.assertEqual(window.waitForEnd(10), (0, "", ""))
         self.assertNothingLeft(target)
@@ -76,13 +81,13 @@ class Closing(WindowTest):
 
     def testClosingTheWindowWithoutARunEndsTheProgramAtOnce(self):
         window = self.startWindow()
-        self.quit(window, seconds=5)
+        self.quit(window)
 
     def testClosingTheWindowOnTheMethodPageEndsTheProgramAtOnce(self):
         target = self.makeVolume("ext4", 16)
         window = self.startWindow()
         self.toMethods(window, target, FAST)
-        self.quit(window, seconds=5)
+        self.quit(window)
         self.assertNothingLeft(target)
 
     def testClosingTheQuestionIsTheAnswerNo(self):

@@ -4,7 +4,7 @@ import signal
 import subprocess
 
 from testkit import program
-from window_case import QUESTION, WindowTest
+from window_case import ENDS_WITHIN_SECONDS, QUESTION, WindowTest
 
 SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
 
@@ -38,7 +38,7 @@ class Signals(WindowTest):
             with self.subTest(number.name):
                 window = self.startWindow()
                 window.process.send_signal(number)
-                self.assertEqual(window.waitForEnd(5), (0, "", ""))
+                self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
 
     def testASignalWhileTheQuestionIsUpStartsNothingAndEndsTheProgram(self):
         target = self.makeVolume("ext4", 16)
@@ -47,7 +47,7 @@ class Signals(WindowTest):
         window.pressButton("Proceed")
         window.find("dialog", *QUESTION)
         window.process.send_signal(signal.SIGTERM)
-        self.assertEqual(window.waitForEnd(5), (0, "", ""))
+        self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
         self.assertNothingLeft(target)
 
     def testASignalAfterARunHasFinishedEndsTheProgram(self):
@@ -56,7 +56,7 @@ class Signals(WindowTest):
         self.startRun(window, target)
         self.outcome(window)
         window.process.send_signal(signal.SIGTERM)
-        self.assertEqual(window.waitForEnd(5), (0, "", ""))
+        self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
         self.assertNothingLeft(target)
 
 

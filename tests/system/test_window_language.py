@@ -2,8 +2,8 @@
 
 import configparser
 import os
-import sqlite3
 
+from tag_store import Tags
 from window_case import WindowTest
 
 STORE = "Ondrel Software/Ondrel MORE/tags.sqlite"
@@ -18,19 +18,8 @@ class Language(WindowTest):
         return home
 
     def writeTags(self, path, tags):
-        """As every program of the suite does."""
         os.makedirs(os.path.dirname(path), mode=0o700, exist_ok=True)
-        store = sqlite3.connect(path)
-        store.executescript("""
-            BEGIN IMMEDIATE;
-            PRAGMA application_id = 1330467923;
-            PRAGMA user_version = 1;
-            CREATE TABLE tags (tag TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL) WITHOUT ROWID;
-            COMMIT;
-            PRAGMA journal_mode = WAL;""")
-        with store:
-            store.executemany("INSERT INTO tags VALUES (?, ?)", tags.items())
-        store.close()
+        Tags(path).set(**tags)
 
     def languageStored(self, home):
         settings = configparser.ConfigParser()

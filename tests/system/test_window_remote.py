@@ -11,16 +11,18 @@ import unittest
 import zlib
 
 from remote_case import (ABORT_PAUSE_SECONDS, FAILED, FINISHED, NOTICED_WITHIN_SECONDS, NOTIFICATION, PAUSE_SECONDS,
-                         RUN_SECONDS, SLOWEST, STORE_VARIABLE, TOLERANCE_SECONDS, RemoteTest)
+                         RUN_SECONDS, SLOWEST, STORE_VARIABLE, RemoteTest)
 from testkit import program
 from testkit.desktop import SCREEN
 from testkit.program import startedAs
 from testkit.window_program import WindowProgram
-from window_case import PHASE_2, WindowTest
+from window_case import ENDS_WITHIN_SECONDS, PHASE_2, WindowTest
 
 GREEN, ORANGE = (0, 255, 0), (255, 119, 52)
 POP_UP_WIDTH, POP_UP_HEIGHT = 300, 90
 SPARE_SECONDS = 4
+# What a busy machine may take to tell of a window that is on the screen already.
+SEEN_LATE_SECONDS = 2
 _MAPPED = re.compile(r"^MapNotify event,.*\n.*, window (0x[0-9a-f]+), override (YES|NO)", re.MULTILINE)
 
 
@@ -139,9 +141,9 @@ class SeenOrders(SeenTest):
         self.assertNothingLeft(target)
         status, when = order.waitForStatus(20)
         self.assertEqual(status, FINISHED)
-        self.assertGreater(when - appeared, PAUSE_SECONDS - TOLERANCE_SECONDS)
+        self.assertGreater(when - appeared, PAUSE_SECONDS - SEEN_LATE_SECONDS)
         self.assertLess(when - appeared, PAUSE_SECONDS + SPARE_SECONDS)
-        self.assertEqual(window.waitForEnd(5), (0, "", ""))
+        self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
         self.assertNothingElseSeen(number)
         self.assertGone(number)
 
@@ -156,7 +158,7 @@ class SeenOrders(SeenTest):
         self.assertEqual(order.waitForStatus(ABORT_PAUSE_SECONDS)[0], FAILED)
         self.assertEqual(window.waitForEnd(10), (0, "", ""))
         lasted = time.monotonic() - appeared
-        self.assertGreater(lasted, ABORT_PAUSE_SECONDS - TOLERANCE_SECONDS)
+        self.assertGreater(lasted, ABORT_PAUSE_SECONDS - SEEN_LATE_SECONDS)
         self.assertLess(lasted, ABORT_PAUSE_SECONDS + SPARE_SECONDS)
         self.assertNothingLeft(target)
         self.assertNothingElseSeen(number)
@@ -173,7 +175,7 @@ class SeenOrders(SeenTest):
 
     def testAMissingVolumeShowsNothingAtAll(self):
         order, window = self.start("not there")
-        self.assertEqual(window.waitForEnd(5), (0, "", ""))
+        self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
         self.assertEqual(order.status, FAILED)
         self.assertNothingElseSeen()
 
@@ -204,6 +206,8 @@ class UsedWindow(SeenTest):
         before = order.tags.read()
         self.notify("cancel wipe", "other")
         self.notify("cancel", "cancel")
+        window.closeWindow()  # what was posted before is served before this
+        self.answer(window, "Wiping process is On")
         self.assertTrue(window.isShowing("label", PHASE_2))
         self.assertTrue(os.path.lexists(target.fillerDirectory()))
         watch = self.startWatch()

@@ -14,6 +14,7 @@ QUESTION = ("Alert!!", "Are you sure , you want to erase the free space of selec
 REQUEST = re.compile("^Please!!")
 PHASE_1, PHASE_2 = "Phase 1: Analyzing Data..", "Phase 2: Securely Erasing Data.."
 RUN_SECONDS = 120
+ENDS_WITHIN_SECONDS = 30  # where only the end itself matters
 # Around a name, so that its direction does not disturb the text about it.
 ISOLATES = re.compile("[\N{FIRST STRONG ISOLATE}\N{POP DIRECTIONAL ISOLATE}]")
 _START_SECONDS = 30  # of a program, and of a run
@@ -31,16 +32,10 @@ class WindowTest(SystemTest):
             self.skipTest("starting a program as another user needs root")
         self.screen = desktop.shared(self.plainUser)
 
-    def windowProgramFor(self):
-        if not self.plainUser:
-            return program.windowProgramPath()
-        copy = program.PublicCopy(program.windowProgramPath())
-        self.addCleanup(copy.remove)
-        return copy.path
-
     def startWindow(self, **options):
         """The program with its first page shown."""
-        window = WindowProgram(self.screen, options.pop("command", None) or [self.windowProgramFor()], **options)
+        window = WindowProgram(self.screen, options.pop("command", None) or [self.windowProgramFor(self.plainUser)],
+                               **options)
         self.addCleanup(window.close)
         window.find("frame", "Calvero", timeout=_START_SECONDS)
         return window
@@ -108,9 +103,9 @@ class WindowTest(SystemTest):
         self.answer(window, "Information", "Wiping process aborted", timeout=30)
         self.assertOnFirstPage(window)
 
-    def quit(self, window, seconds=10):
+    def quit(self, window):
         window.closeWindow()
-        self.assertEqual(window.waitForEnd(seconds), (0, "", ""))
+        self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
 
     # What is expected
 
@@ -154,6 +149,6 @@ def runThreads(window):
         try:
             with open(f"{folder}/{task}/comm") as file:
                 names.append(file.read().strip())
-        except FileNotFoundError:
+        except (FileNotFoundError, ProcessLookupError):  # it ended before the file was opened, or before it was read
             continue
     return [name for name in names if name.startswith("calvero-") and name not in LASTING_THREADS]

@@ -87,7 +87,7 @@ class AccessibleTree:
             try:
                 with open(f"/proc/{pid}/stat") as file:
                     pid = int(file.read().rpartition(")")[2].split()[1])
-            except FileNotFoundError:
+            except (FileNotFoundError, ProcessLookupError):
                 return False
         return False
 

@@ -270,9 +270,3 @@ class Desktop:
         self._servers.clear()
         self._watcher.stdin.close()
         self._watcher.wait()
-
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        self.close()

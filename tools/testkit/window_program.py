@@ -85,10 +85,6 @@ class WindowProgram:
     def value(self, accessible):
         return accessible.queryValue().currentValue
 
-    def valueRange(self, accessible):
-        value = accessible.queryValue()
-        return value.minimumValue, value.maximumValue
-
     def waitFor(self, condition, what, timeout=WAIT_SECONDS):
         """Waits for something else, asked again when what it reads goes away meanwhile."""
         return self._wait(condition, what, timeout)
@@ -138,12 +134,6 @@ class WindowProgram:
         dialog, the dialog."""
         self._waitUntilActive()
         self._desktop.run("xdotool", "key", "--clearmodifiers", *keys)
-
-    def typeText(self, text):
-        """Types what is on an English keyboard."""
-        assert text.isascii(), f"{text!r} is not on the keyboard"
-        self._waitUntilActive()
-        self._desktop.run("xdotool", "type", "--clearmodifiers", "--delay", "5", "--", text)
 
     def closeWindow(self, title=None):
         """Closes the active window by the window manager's key, or the one of that title by its title bar."""
