@@ -7,7 +7,7 @@
 #include <thread>
 
 #include "platform/linux/posix_files.h"
-#include "tests/platform/linux/mounted_images.h"
+#include "tests/platform/qt/image_mounts.h"
 #include "tests/platform/qt/wizard_fixture.h"
 
 namespace calvero {
@@ -42,19 +42,6 @@ class SchedulingDelay {
   std::atomic<bool> ends_{false};
   std::atomic<qint64> worst_{0};
   std::thread thread_;
-};
-
-class Mounts : public testing::MountedImages {
- public:
-  void TestBody() override {}
-  void open() { SetUp(); }
-  void close() { TearDown(); }
-  /// A new file system; its mount path, or nothing.
-  std::string mountNew(std::vector<std::string> mkfs, const char* type, std::uint64_t mebibytes) {
-    const auto device = makeFileSystem(std::move(mkfs), mebibytes);
-    std::string path = makeFolder("volume");
-    return device && mount(device->path(), path, type) ? path : "";
-  }
 };
 
 /// The window and a real volume; the event loop's heart beats as long as a run goes on.
@@ -95,7 +82,7 @@ class Responsiveness : public testing::WizardFixture {
     RecordProperty("longestStallMilliseconds", static_cast<int>(longestStall_.count()));
   }
 
-  Mounts mounts_;
+  testing::ImageMounts mounts_;
   PosixFiles realFiles_;
   SchedulingDelay delay_;
   QElapsedTimer sinceBeat_;

@@ -134,6 +134,8 @@ class WizardFixture : public ::testing::Test {
   std::chrono::seconds longestUse{30};
   Clock* usedClock = &clock;
   Files* usedFiles = &files;
+  MountedVolumes* usedVolumes = &volumes;
+  DiskLookup* usedLookup = &volumes;
   std::string alertText;
   std::set<std::string> mountedOnce;
   WizardPorts ports{{tags, desktop, desktop, texts}};
@@ -146,12 +148,12 @@ class WizardFixture : public ::testing::Test {
     return {.alerts = real.alerts,
             .clock = *usedClock,
             .controls = real.controls,
-            .diskLookup = volumes,
+            .diskLookup = *usedLookup,
             .eventLoop = real.eventLoop,
             .files = *usedFiles,
             .informationFile = desktop,
             .localisation = texts,
-            .mountedVolumes = volumes,
+            .mountedVolumes = *usedVolumes,
             .popUpWindow = real.popUpWindow,
             .random = random,
             .suiteWeb = desktop,
