@@ -183,7 +183,7 @@ class AppDelegate {
   /// The run that is under way, or the idle one that the next start will take.
   [[nodiscard]] RunPtr currentRun() const { return run_; }
   /// Whether a cancel waits for its clean-up.
-  [[nodiscard]] bool cancelWaits() const { return cancelWaits_; }
+  [[nodiscard]] bool cancelWaits() const { return cancelWait_ != CancelWait::none; }
   [[nodiscard]] const VolumeTable& volumes() const { return *volumes_; }
   [[nodiscard]] const MethodChoice& methodChoice() const { return choice_; }
   [[nodiscard]] const ShellState& shell() const { return shell_; }

@@ -17,6 +17,7 @@
 #include "platform/qt/translations.h"
 #include "platform/qt/wizard/wizard_ports.h"
 #include "platform/qt/wizard/wizard_session.h"
+#include "platform/suite/order_claim.h"
 #include "platform/suite/sqlite_tag_store.h"
 #include "platform/suite/suite_folder.h"
 
@@ -25,16 +26,43 @@ namespace {
 
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
+constexpr int kRefused = 3;
+constexpr int kCancelled = 4;
 constexpr std::chrono::seconds kTimeForThreadsToEnd{2};
 constexpr std::chrono::seconds kTimeForTagsToBeStored{2};
+constexpr std::chrono::seconds kTimeForTheStatusToBeStored{600};
+/// A command that looks at the order or changes it holds the claim for a moment.
+constexpr std::chrono::seconds kPatienceWithTheClaim{1};
 
 void printError(const std::string& text) {
   std::fprintf(stderr, "calvero: %s\n", text.c_str());
 }
 
-/// A wipe that was ordered needs no display; a person does.
-bool canBeUsed(Authentication& authentication) {
-  return !isWithoutDisplay() || authentication.GetValueForTag(kTagOnline) == "1";
+/// Whether another process carries out the order. Where nobody can tell, this one does so as well.
+bool isClaimedByAnother(OrderClaim& claim, SystemLog& log) {
+  const OrderClaim::Holder holder = claim.take(kPatienceWithTheClaim);
+  if (holder == OrderClaim::Holder::another) log.line("the order is under way in another process; this one ends");
+  if (holder == OrderClaim::Holder::nobody) log.line("the order cannot be claimed: a second start would not see it");
+  return holder == OrderClaim::Holder::another;
+}
+
+/// A run with failed writes has finished, but is no success.
+int exitCodeOf(const WipeRun& run) {
+  if (run.outcome == RunOutcome::cancelled) return kCancelled;
+  return run.outcome == RunOutcome::finished && run.faults() == 0 ? 0 : kFailed;
+}
+
+/// A hidden program is in nobody's way, and whoever ordered its run waits for the status. Once it is told to end, by
+/// whoever ends the session or the machine, it does not go on for long.
+void waitForTheStatus(SqliteTagStore& tags, const WizardSession& session) {
+  constexpr std::chrono::milliseconds kLookInterval{100};
+  const auto begin = std::chrono::steady_clock::now();
+  const auto isOver = [begin, &session] {
+    const auto passed = std::chrono::steady_clock::now() - begin;
+    return passed >= (session.wasToldToEnd() ? kTimeForTagsToBeStored : kTimeForTheStatusToBeStored);
+  };
+  while (!tags.waitUntilStored(kLookInterval) && !isOver()) {
+  }
 }
 
 int showWindow(int argumentCount, char** arguments) {
@@ -45,10 +73,14 @@ int showWindow(int argumentCount, char** arguments) {
   StoredDefaults defaults;
   Authentication authentication(tags, addresses);
   Translations texts(chooseInterfaceLanguage(authentication, defaults));
+  OrderClaim claim(tagStorePath());
+  claim.inherit();
+  const bool isOrdered = authentication.GetValueForTag(kTagOnline) == "1";
+  if (isOrdered && isClaimedByAnother(claim, log)) return kRefused;
 
   chooseDisplay();
   QApplication application(argumentCount, arguments);
-  if (!canBeUsed(authentication)) {
+  if (!isOrdered && isWithoutDisplay()) {  // an ordered run needs none; a person does
     printError("there is no display to open a window on; in a terminal, use calvero-cli");
     return kFailed;
   }
@@ -59,15 +91,26 @@ int showWindow(int argumentCount, char** arguments) {
 
   WizardPorts ports({tags, addresses, workspace, texts});
   AppDelegate app(ports.ports());
+  const bool isRemote = app.order().cloudInitiation != 0;
+  if (!isRemote) {
+    claim.giveUp();
+  } else if (!isOrdered && isClaimedByAnother(claim, log)) {  // it was ordered since
+    return kRefused;
+  }
   WizardSession session(ports, app);
   ports.loop.post([&session] { session.start(); });
-  const int status = ports.loop.run();
-
+  int code = ports.loop.run();
   const bool threadsEnded = ports.threads.waitForAll(kTimeForThreadsToEnd);
-  tags.waitUntilStored(kTimeForTagsToBeStored);
+  if (isRemote) {
+    waitForTheStatus(tags, session);
+    claim.giveUp();
+    code = exitCodeOf(*app.currentRun());
+  } else {
+    tags.waitUntilStored(kTimeForTagsToBeStored);
+  }
   // A thread that hangs in the kernel would find everything destroyed under it.
-  if (!threadsEnded) std::_Exit(status);
-  return status;
+  if (!threadsEnded) std::_Exit(code);
+  return code;
 }
 
 int run(int argumentCount, char** arguments) {

@@ -15,10 +15,12 @@ namespace {
 
 constexpr int kNone = -1;
 std::atomic<int> writeEnd{kNone};
-static_assert(std::atomic<int>::is_always_lock_free);
+std::atomic<bool> isSent{false};
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
 
 void noteSignal(int) {
   const int errorBefore = errno;
+  isSent = true;
   const char note = 0;
   [[maybe_unused]] const auto written = ::write(writeEnd, &note, sizeof note);  // a full pipe holds notes enough
   errno = errorBefore;
@@ -31,6 +33,7 @@ QuitSignals::QuitSignals(const EventDispatch& dispatch, std::function<void()> ac
   if (::pipe2(pipe_.data(), O_CLOEXEC | O_NONBLOCK) != 0)
     throw std::system_error(errno, std::generic_category(), "pipe2");
   writeEnd = pipe_[1];
+  isSent = false;
   notifier_ = std::make_unique<QSocketNotifier>(pipe_[0], QSocketNotifier::Read);
   QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { serveOne(); });
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) takeOver(signal);
@@ -41,6 +44,10 @@ QuitSignals::~QuitSignals() {
   notifier_.reset();
   writeEnd = kNone;
   for (const int end : pipe_) ::close(end);
+}
+
+bool QuitSignals::wasSent() const {
+  return isSent;
 }
 
 void QuitSignals::takeOver(int signal) {

@@ -23,6 +23,9 @@ class QuitSignals {
   QuitSignals(const QuitSignals&) = delete;
   QuitSignals& operator=(const QuitSignals&) = delete;
 
+  /// Whether one has arrived, though its action may never run.
+  [[nodiscard]] bool wasSent() const;
+
  private:
   void takeOver(int signal);
   void serveOne();

@@ -15,6 +15,10 @@ from testkit.volume import FILLER_BYTES, MEBIBYTE, MEGABYTE, Unavailable, Volume
 # Metadata that a run may leave allocated: directory blocks, B-tree nodes.
 FREE_SPACE_SLACK_BYTES = 4 * MEGABYTE
 FILL_TIMEOUT_SECONDS = 240
+# Passes enough that a run goes on until it is ended.
+SLOWEST = "9"
+# What ends a run by itself is seen by then.
+NOTICED_WITHIN_SECONDS = 10
 
 
 class SystemTest(unittest.TestCase):

@@ -9,17 +9,17 @@ import tempfile
 from unittest import mock
 
 from case import SystemTest
-from tag_store import Tags
+from remote_case import BUS_VARIABLE
+from tag_store import STORE_VARIABLE, Tags
 from testkit import program
 
-STORE_VARIABLE = "CALVERO_TAG_STORE"
-BUS_VARIABLE = "DBUS_SESSION_BUS_ADDRESS"
 NOTHING_LEFT = {"cvrOnline": "0", "cvrDrive": "", "cvrAlgo": "", "cvrStatus": "", "CVRCANCEL": ""}
 
 # Ends by itself in a test that fails. `files` are where the script and the test tell each other how far they are.
 STAND_IN = """#!/usr/bin/python3
 import os, pathlib, sqlite3, sys, time
 files = pathlib.Path(__file__).parent
+code = 0
 end = time.monotonic() + 60
 
 def waitUntil(condition):
@@ -46,8 +46,8 @@ def write(tag, value):
 """
 WAIT_TO_GO = 'waitUntil((files / "go").exists)\n'
 FINISH = 'write("cvrStatus", "2")\n'
-FAIL = 'write("cvrStatus", "3")\n'
-FOLLOW_A_REQUEST = 'waitUntil(lambda: read("CVRCANCEL") == "1")\nwrite("CVRCANCEL", "0")\n' + FAIL
+FAIL = 'write("cvrStatus", "3")\ncode = 1\n'
+FOLLOW_A_REQUEST = 'waitUntil(lambda: read("CVRCANCEL") == "1")\nwrite("CVRCANCEL", "0")\n' + FAIL + "code = 4\n"
 
 
 class OrderTest(SystemTest):
@@ -78,7 +78,7 @@ class OrderTest(SystemTest):
         """What carries out orders: a script that notes that it was started, and with which order, and does `body`."""
         path = os.path.join(folder or self.folder, "calvero")
         with open(path, "w") as file:
-            file.write(STAND_IN + body)
+            file.write(STAND_IN + body + "sys.exit(code)\n")
         os.chmod(path, 0o755)
 
     def file(self, name):

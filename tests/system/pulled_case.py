@@ -11,7 +11,6 @@ from testkit import program, trace
 from testkit.trace import Point
 
 PHASE_1, PHASE_2, CLEAN_UP = "phase 1", "phase 2", "clean-up"
-NOTICED_WITHIN_SECONDS = 10
 _VOLUME_MEBIBYTES = 48  # room for one filler file
 _FILE = ".temp0"
 

@@ -4,6 +4,8 @@ import contextlib
 import os
 import sqlite3
 
+STORE_VARIABLE = "CALVERO_TAG_STORE"
+
 
 class Tags:
     """The tag store, as another program of the suite uses it."""

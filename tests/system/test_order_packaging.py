@@ -7,6 +7,7 @@ import pathlib
 import shutil
 import subprocess
 
+from case import SLOWEST
 from remote_case import FINISHED, RemoteTest, killProgramsOf
 from testkit import program
 from testkit.program import startedAs
@@ -45,6 +46,19 @@ class Starter(RemoteTest):
         self.assertEqual((ended.returncode, ended.stdout, ended.stderr), (0, "", ""))
         self.assertEqual(order.status, FINISHED)
         self.assertNothingLeft(target)
+
+    def testStartsNothingWhileTheOrderIsCarriedOut(self):
+        target = self.makeVolume("ext4", 256)
+        order = self.prepare(target)
+        order.tags.set(cvrAlgo=SLOWEST)
+        order.start([STARTER])
+        self.waitUntilWriting(target)
+        before = order.tags.read()
+        self.assertStartsNothing(order)
+        self.assertEqual(order.tags.read(), before)
+        self.assertStillWriting(order, target)
+        order.process.terminate()
+        self.expectAbort(order, target)
 
     def testStartsNothingWhereNoOrderIsPending(self):
         for tags in ({"cvrOnline": "0"}, {"cvrOnline": ""}, {"cvrOnline": "0", "cvrDrive": '"pending": true'}):
@@ -90,5 +104,6 @@ class Files(RemoteTest):
         self.assertEqual(entries.sections(), ["Desktop Entry"])
         self.assertEqual((entry["Type"], entry["Exec"], entry["Terminal"]), ("Application", STARTER, "false"))
         self.assertTrue(entry["Name"])
-        if shutil.which("desktop-file-validate") is not None:
-            subprocess.run(["desktop-file-validate", PACKAGING / f"{STARTER}-autostart.desktop"], check=True)
+        if shutil.which("desktop-file-validate") is None:
+            self.skipTest("desktop-file-validate is not installed")
+        subprocess.run(["desktop-file-validate", PACKAGING / f"{STARTER}-autostart.desktop"], check=True)

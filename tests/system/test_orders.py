@@ -4,7 +4,7 @@ import os
 from unittest import mock
 
 from case import everything
-from order_case import OrderTest
+from order_case import FINISH, WAIT_TO_GO, OrderTest
 from testkit import program
 
 
@@ -67,6 +67,7 @@ class Order(OrderTest):
         self.setOrder(other.name)
         before = self.tags()
         self.assertRefused(self.order(target), other.name, "calvero-cli clear")
+        self.assertEqual(self.tags(), before)
         self.hold(other)
         self.setOrder(other.name, cvrStatus="2")
         before = self.tags()
@@ -86,12 +87,36 @@ class Order(OrderTest):
             self.assertEqual(len(placed), 1, ended)
             for _, how in ended:
                 if how[0] != program.EXIT_FINISHED:
-                    self.assertEndsWith(how, program.EXIT_REFUSED, placed[0], "has not ended")
+                    self.assertEndsWith(how, program.EXIT_REFUSED, placed[0], "calvero-cli")
             self.assertEqual(self.tags()["cvrDrive"], placed[0])
             orders += placed
             program.waitUntil(lambda: len(self.starts()) >= len(orders), "the start of the program")
             self.assertEqual(self.runProgram("clear").returncode, program.EXIT_FINISHED)
         self.assertEqual(self.starts(), orders)
+
+    def testIsUnderWayFromItsStartToTheEndOfItsProgram(self):
+        target = self.makeVolume()
+        self.standIn(WAIT_TO_GO + FINISH + 'waitUntil((files / "end").exists)\n')
+        self.assertEqual(self.order(target).returncode, program.EXIT_FINISHED)
+        for _ in range(2):
+            self.assertTrue(self.statusOf()["running"])
+            before = self.tags()
+            self.assertRefused(self.order(target), target.name, "under way")
+            self.assertRefused(self.runProgram("clear"), target.name, "under way")
+            self.assertEqual(self.tags(), before)
+            self.go()
+            program.waitUntil(lambda: self.tags()["cvrStatus"] == "2", "the status")
+        open(self.file("end"), "w").close()
+        self.assertEqual(self.runProgram("clear").returncode, program.EXIT_FINISHED)
+        self.assertFalse(self.statusOf()["running"])
+
+    def testWhereNoClaimCanBeMadeIsCarriedOutWithout(self):
+        target = self.makeVolume()
+        self.standIn("")
+        os.mkdir(self.store + "-order")
+        self.assertEqual(self.order(target).returncode, program.EXIT_FINISHED)
+        self.waitForStart()
+        self.assertFalse(self.statusOf()["running"])
 
     def testIsRefusedWhileTheRunOfAnOrderThatWasCalledOffGoesOn(self):
         target, other = self.makeVolume(), self.makeVolume()

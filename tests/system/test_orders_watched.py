@@ -5,7 +5,8 @@ import re
 import shutil
 import subprocess
 
-from order_case import BUS_VARIABLE, FAIL, FINISH, FOLLOW_A_REQUEST, NOTHING_LEFT, WAIT_TO_GO, OrderTest
+from order_case import FAIL, FINISH, FOLLOW_A_REQUEST, NOTHING_LEFT, WAIT_TO_GO, OrderTest
+from remote_case import BUS_VARIABLE
 from testkit import program
 from testkit.program import TerminalProgram, startedAs
 

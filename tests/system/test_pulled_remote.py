@@ -2,8 +2,9 @@
 
 import signal
 
+from case import NOTICED_WITHIN_SECONDS, SLOWEST
 from pulled_case import CLEAN_UP, PHASE_1, PHASE_2, PulledTest
-from remote_case import FAILED, NOTICED_WITHIN_SECONDS, SLOWEST, RemoteTest
+from remote_case import FAILED, RemoteTest
 from testkit import program
 
 # A cancel waits eight seconds for a sign of life before it tells.
@@ -27,7 +28,7 @@ class PulledVolume(PulledTest, RemoteTest):
                 lose()
                 self.goOn(order.process)
                 self.assertEqual(order.waitForStatus(NOTICED_WITHIN_SECONDS)[0], FAILED)
-                self.assertEndedSilently(order)
+                self.assertEndedSilently(order, program.EXIT_FAILED)
                 self.assertEqual(order.status, FAILED)
 
     def testIsToldWhenItGoesWhileTheFilesAreLaidOut(self):
@@ -55,5 +56,5 @@ class PulledVolume(PulledTest, RemoteTest):
                 program.waitUntil(lambda: program.hasLeft(order.process), "the program leaving without its threads",
                                   CANCELLED_WITHIN_SECONDS)
                 target.die()
-                self.assertEndedSilently(order)
+                self.assertEndedSilently(order, program.EXIT_CANCELLED)
                 self.assertEqual(order.status, FAILED)

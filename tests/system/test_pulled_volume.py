@@ -4,11 +4,11 @@ import json
 import signal
 import time
 
-from pulled_case import CLEAN_UP, NOTICED_WITHIN_SECONDS, PHASE_1, PHASE_2, PulledTest
+from case import NOTICED_WITHIN_SECONDS, SLOWEST
+from pulled_case import CLEAN_UP, PHASE_1, PHASE_2, PulledTest
 from testkit import program
 from testkit.fuse_volume import FuseVolume
 
-SLOWEST = "9"
 # A cancel waits eight seconds for a sign of life, the list of volumes and the end of the threads two seconds each.
 LEAVES_WITHIN_SECONDS = 30
 

@@ -2,7 +2,8 @@
 
 import time
 
-from remote_case import SLOWEST, RemoteTest
+from case import SLOWEST
+from remote_case import RemoteTest
 from testkit.volume import MEBIBYTE
 
 POLL_SECONDS = 60

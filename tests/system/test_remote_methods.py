@@ -72,7 +72,7 @@ class OrderedMethods(RemoteTest):
 
     def check(self, method, order, target):
         self.assertEqual(order.waitForStatus()[0], FINISHED)
-        self.assertEndedSilently(order)
+        self.assertEndedSilently(order, program.EXIT_FINISHED)
         calls = trace.calls(order.calls)
         laidOut = [call for call in calls if "O_CREAT" in call.arguments and trace.under(call.path, target.path)]
         self.assertEqual(len(laidOut), 1, "one filler file was laid out")

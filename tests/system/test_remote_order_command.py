@@ -2,9 +2,11 @@
 
 import os
 import shutil
+import signal
 import subprocess
 
-from remote_case import FAILED, FINISHED, SLOWEST, RemoteTest, killProgramsOf
+from case import SLOWEST
+from remote_case import FAILED, FINISHED, RemoteTest, killProgramsOf, processesOf
 from testkit import program
 from testkit.program import startedAs
 
@@ -16,7 +18,7 @@ class OrderCommand(RemoteTest):
         os.remove(self.order.tags.path)
         self.startBus(self.order)
         self.programs = self.makeFolder()
-        shutil.copy(program.windowProgramPath(), os.path.join(self.programs, "calvero"))
+        self.windowProgram = shutil.copy(program.windowProgramPath(), os.path.join(self.programs, "calvero"))
         self.command = shutil.copy(program.programPath(), os.path.join(self.programs, "calvero-cli"))
         # What it orders has a session of its own and would outlive a test that fails.
         self.addCleanup(killProgramsOf, self.programs)
@@ -72,21 +74,77 @@ class OrderCommand(RemoteTest):
 
     def testAWaitTellsAVolumeThatIsGone(self):
         target = self.makeVolume("ext4", 96)
-        waiting = self.start("order", target.name, "--method", "1", "--wait")
+        waiting = self.start("order", target.name, "--method", SLOWEST, "--wait")
         self.waitUntilWriting(target)
         target.detach()
         code, output, errors = self.finish(waiting)
         self.assertEqual(code, program.EXIT_FAILED, (output, errors))
         self.assertEqual(self.order.status, FAILED)
 
+    def testAWaitTellsACancelByOtherMeansThanTheCommand(self):
+        target = self.makeVolume("ext4", 256)
+        for cancel in (lambda: self.order.notify("cancel wipe", "cancel"), self.terminateCalvero):
+            waiting = self.start("order", target.name, "--method", SLOWEST, "--wait")
+            self.waitUntilWriting(target)
+            cancel()
+            code, output, errors = self.finish(waiting)
+            self.assertEqual(code, program.EXIT_CANCELLED, (output, errors))
+            self.assertIn("Cancelled", errors)
+            self.assertEqual(self.order.tags.read()["CVRCANCEL"], "")
+            self.assertEqual(self.complete("clear")[0], program.EXIT_FINISHED)
+
+    def terminateCalvero(self):
+        for process in processesOf(self.windowProgram):
+            os.kill(process, signal.SIGTERM)
+
+    def testARequestThatAnotherProgramSetsMakesNoCancelOfALostVolume(self):
+        target = self.makeVolume("ext4", 96)
+        waiting = self.start("order", target.name, "--method", SLOWEST, "--wait")
+        self.waitUntilWriting(target)
+        self.order.tags.set(CVRCANCEL="later")
+        target.detach()
+        code, output, errors = self.finish(waiting)
+        self.assertEqual(code, program.EXIT_FAILED, (output, errors))
+
     def testTheOrderOutlivesTheCommandAndCanBeFollowed(self):
-        target = self.makeVolume("ext4", 24)
-        code, output, errors = self.complete("order", target.path, "--method", "6")
+        target = self.makeVolume("ext4", 256)
+        code, output, errors = self.complete("order", target.path, "--method", SLOWEST)
         self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
+        self.assertIn("under way", self.complete("status")[1], "before it holds the volume")
         self.waitUntilWriting(target)
         self.assertIn("under way", self.complete("status")[1])
         self.assertEqual(self.complete("clear")[0], program.EXIT_REFUSED)
-        self.assertEqual(self.order.waitForStatus()[0], FINISHED)
+        self.assertEqual(self.complete("cancel", "--wait")[0], program.EXIT_FINISHED)
+        self.assertEqual(self.order.status, FAILED)
         self.assertEqual(self.complete("clear")[0], program.EXIT_FINISHED)
         self.assertEqual(self.order.tags.read()["cvrOnline"], "0")
         self.assertNothingLeft(target)
+
+    def testARunIsUnderWayUntilItsProgramEndsThoughItHasLeftTheVolume(self):
+        target = self.makeVolume("ext4", 16)
+        self.assertEqual(self.complete("order", target.name, "--method", "1")[0], program.EXIT_FINISHED)
+        self.waitUntilWriting(target)
+        self.waitUntilRemoved(target)
+        self.assertEqual(self.order.status, "")
+        self.assertIn("under way", self.complete("status")[1])
+        before = self.order.tags.read()
+        for command in (("clear",), ("order", target.name, "--method", "1", "--wait")):
+            code, output, errors = self.complete(*command)
+            self.assertEqual(code, program.EXIT_REFUSED, (output, errors))
+            self.assertIn("under way", errors)
+        self.assertEqual(self.order.tags.read(), before)
+        self.assertEqual(program.waitUntil(lambda: self.order.status, "the status"), FINISHED)
+        # The program ends now, and is waited for.
+        self.assertEqual(self.complete("clear")[0], program.EXIT_FINISHED)
+
+    def testASecondStartDuringTheRunEndsAtOnceAndChangesNothing(self):
+        target = self.makeVolume("ext4", 256)
+        waiting = self.start("order", target.name, "--method", SLOWEST, "--wait")
+        self.waitUntilWriting(target)
+        before = self.order.tags.read()
+        self.order.start([self.windowProgram])
+        self.assertEqual(self.order.waitForEnd(), (program.EXIT_REFUSED, ""))
+        self.assertEqual(self.order.tags.read(), before)
+        self.waitUntilWriting(target)
+        self.assertEqual(self.complete("cancel", "--wait")[0], program.EXIT_FINISHED)
+        self.assertEqual(self.finish(waiting)[0], program.EXIT_CANCELLED)

@@ -6,8 +6,8 @@ import shutil
 import socket
 import subprocess
 
-from case import FREE_SPACE_SLACK_BYTES
-from remote_case import BUS_VARIABLE, FINISHED, PAUSE_SECONDS, SLOWEST, TOLERANCE_SECONDS, RemoteTest
+from case import FREE_SPACE_SLACK_BYTES, SLOWEST
+from remote_case import BUS_VARIABLE, FINISHED, PAUSE_SECONDS, TOLERANCE_SECONDS, RemoteTest
 from testkit import program
 from testkit.marks import KeptFiles, MarkedData
 
@@ -45,7 +45,7 @@ class OrderedRun(RemoteTest):
         status, when = order.waitForStatus(20)
         self.assertEqual(status, FINISHED)
         self.assertGreater(when - removed, PAUSE_SECONDS - TOLERANCE_SECONDS)
-        self.assertEndedSilently(order)
+        self.assertEndedSilently(order, program.EXIT_FINISHED)
         self.assertEqual(order.tags.read(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "1",
                                              "cvrStatus": FINISHED})
         self.assertFreeAgain(target, freeBefore, FREE_SPACE_SLACK_BYTES)

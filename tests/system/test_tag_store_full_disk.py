@@ -1,4 +1,5 @@
-"""A tag store on a disk that is full: a run ends all the same, and its status is stored as soon as there is room."""
+"""A tag store on a disk that is full: the status is stored as soon as there is room, and a program that is told to end
+does so all the same."""
 
 import os
 import subprocess
@@ -51,18 +52,26 @@ class FullDisk(RemoteTest):
         order.start([program.windowProgramPath()])
         return order, ballast
 
-    def testDoesNotHoldUpTheEnd(self):
-        order, ballast = self.startOnFullDisk()
-        self.assertEndedSilently(order, ENDS_WITHIN_SECONDS)
-        os.remove(ballast)
-        self.assertEqual(order.tags.read(), {"cvrOnline": "1", "cvrDrive": NO_VOLUME, "cvrAlgo": "1"})
+    def assertWaits(self, order):
+        """Far longer than its tags hold up a program with a window."""
+        self.assertRaises(subprocess.TimeoutExpired, order.process.wait, 8)
+        self.assertTrue(hasThread(order.process, WRITER))
+        self.assertIsNone(order.status)
 
     def testGetsTheStatusOnceThereIsRoom(self):
         order, ballast = self.startOnFullDisk()
-        program.waitUntil(lambda: hasThread(order.process, WRITER), "the status is about to be stored")
+        self.assertWaits(order)
         os.remove(ballast)
-        self.assertEndedSilently(order, ENDS_WITHIN_SECONDS)
+        self.assertEndedSilently(order, program.EXIT_FAILED, ENDS_WITHIN_SECONDS)
         self.assertEqual(order.status, FAILED)
+
+    def testEndsWithoutTheStatusWhenItIsToldToEnd(self):
+        order, ballast = self.startOnFullDisk()
+        self.assertWaits(order)
+        order.process.terminate()
+        self.assertEndedSilently(order, program.EXIT_FAILED, ENDS_WITHIN_SECONDS)
+        os.remove(ballast)
+        self.assertEqual(order.tags.read(), {"cvrOnline": "1", "cvrDrive": NO_VOLUME, "cvrAlgo": "1"})
 
 
 class StoreOnTheErasedVolume(RemoteTest):

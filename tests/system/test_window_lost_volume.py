@@ -4,11 +4,11 @@ usable."""
 import shutil
 import subprocess
 
+from case import NOTICED_WITHIN_SECONDS
 from window_case import FAST, RUN_SECONDS, SLOWEST, WindowTest
 
 UNKNOWN_ERROR = ("Information", "Unknown Error Occured")
 DEAD = "does not respond|not connected any more"
-NOTICED_WITHIN_SECONDS = 10
 
 
 class LostVolume(WindowTest):

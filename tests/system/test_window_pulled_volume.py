@@ -1,7 +1,8 @@
 """A volume that goes or hangs in any phase of a run: the window says so in time, and is not held up. More ways of going
 while a file is written are in test_window_lost_volume."""
 
-from pulled_case import CLEAN_UP, NOTICED_WITHIN_SECONDS, PHASE_1, PHASE_2, PulledTest
+from case import NOTICED_WITHIN_SECONDS
+from pulled_case import CLEAN_UP, PHASE_1, PHASE_2, PulledTest
 from testkit import program
 from window_case import FAST, REQUEST, SLOWEST, WindowTest
 

@@ -10,8 +10,10 @@ import time
 import unittest
 import zlib
 
-from remote_case import (ABORT_PAUSE_SECONDS, FAILED, FINISHED, NOTICED_WITHIN_SECONDS, NOTIFICATION, PAUSE_SECONDS,
-                         RUN_SECONDS, SLOWEST, STORE_VARIABLE, RemoteTest)
+from case import NOTICED_WITHIN_SECONDS, SLOWEST
+from remote_case import (ABORT_PAUSE_SECONDS, FAILED, FINISHED, NOTIFICATION, PAUSE_SECONDS, RUN_SECONDS,
+                         RemoteTest)
+from tag_store import STORE_VARIABLE
 from testkit import program
 from testkit.desktop import SCREEN
 from testkit.program import startedAs
@@ -156,7 +158,7 @@ class SeenOrders(SeenTest):
         number, appeared = self.waitForPopUp(NOTICED_WITHIN_SECONDS)
         self.assertPopUp(number)
         self.assertEqual(order.waitForStatus(ABORT_PAUSE_SECONDS)[0], FAILED)
-        self.assertEqual(window.waitForEnd(10), (0, "", ""))
+        self.assertEqual(window.waitForEnd(10), (program.EXIT_CANCELLED, "", ""))
         lasted = time.monotonic() - appeared
         self.assertGreater(lasted, ABORT_PAUSE_SECONDS - SEEN_LATE_SECONDS)
         self.assertLess(lasted, ABORT_PAUSE_SECONDS + SPARE_SECONDS)
@@ -171,11 +173,11 @@ class SeenOrders(SeenTest):
         self.notify("cancel wipe", "cancel")
         number, _ = self.waitForPopUp(NOTICED_WITHIN_SECONDS)
         self.assertPainted(self.assertPopUp(number), ORANGE)
-        self.assertEqual(window.waitForEnd(10), (0, "", ""))
+        self.assertEqual(window.waitForEnd(10), (program.EXIT_CANCELLED, "", ""))
 
     def testAMissingVolumeShowsNothingAtAll(self):
         order, window = self.start("not there")
-        self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
+        self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (program.EXIT_FAILED, "", ""))
         self.assertEqual(order.status, FAILED)
         self.assertNothingElseSeen()
 
@@ -184,7 +186,7 @@ class SeenOrders(SeenTest):
         order, window = self.start(target)
         self.waitUntilWriting(target)
         os.remove(os.path.join(target.fillerDirectory(), ".temp1"))
-        self.assertEqual(window.waitForEnd(RUN_SECONDS), (0, "", ""))
+        self.assertEqual(window.waitForEnd(RUN_SECONDS), (program.EXIT_FAILED, "", ""))
         self.assertEqual(order.status, FAILED)
         self.assertNothingLeft(target)
         self.assertNothingElseSeen()

@@ -23,6 +23,9 @@ class WizardSession {
   /// Completes the launch; the window is shown unless a wipe was ordered.
   void start();
 
+  /// Whether a signal has asked the program to end.
+  [[nodiscard]] bool wasToldToEnd() const { return signals_.wasSent(); }
+
  private:
   void connectWizard();
   void connectSideBar();

@@ -11,19 +11,16 @@
 namespace calvero {
 namespace {
 
-/// From the end of a run's filler directory to its status: a message is shown in between.
-constexpr std::chrono::seconds kTimeForTheStatus{15};
-
 /// A run looks for the request once in `kCancelPollInterval`, and then gives its space back.
 constexpr std::chrono::seconds kTimeToFollow = kCancelPollInterval + std::chrono::seconds(60);
 
 /// A run that is notified ends at once, and only then is it known that the tag is not needed.
-constexpr std::chrono::seconds kTimeToFollowTheNotification{10};
+constexpr std::chrono::seconds kTimeToFollowTheNotification{20};
 
 /// Why nothing could follow a request; empty when something could.
 std::string whyNothingCouldFollow(const PendingOrder& order, const RunLookup& isUnderWay) {
   if (!order.exists()) return "There is no order to cancel";
-  if (isUnderWay(order.volume)) return "";
+  if (isUnderWay(order)) return "";
   const std::string name = printable(order.volume);
   if (!order.isPending()) return "The order for " + name + " is not pending and has no run";
   // The notification would end whatever else a window is doing, and the tag the order's next run.
@@ -34,8 +31,7 @@ std::string whyNothingCouldFollow(const PendingOrder& order, const RunLookup& is
 bool waitForTheEnd(CancelWatch& watch, AsioEventLoop& loop, std::chrono::seconds limit) {
   bool isStopped = false;
   const StopSignals signals(loop, [&isStopped] { isStopped = true; });
-  loop.startTimer(kTagLookInterval, TimerKind::repeating,
-                  [&watch] { watch.look(std::chrono::steady_clock::now().time_since_epoch()); });
+  loop.startTimer(kTagLookInterval, TimerKind::repeating, [&watch] { watch.look(); });
   loop.serveUntil([&] { return watch.hasEnded() || isStopped; }, limit);
   return watch.hasEnded() || !isStopped;
 }
@@ -56,29 +52,24 @@ AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::
   return asked;
 }
 
-void takeBackRequest(OrderTags& tags, const RunLookup& isUnderWay, const std::string& volume) {
+void takeBackRequest(OrderTags& tags, const ClaimLookup& isClaimed, const std::string& volume) {
   changeOrder(tags, [&](const PendingOrder& order) -> OrderChange {
-    if (order.cancel != "1" || order.volume != volume || isUnderWay(volume)) return {};
+    if (order.cancel != "1" || order.volume != volume || isClaimed()) return {};
     return {{}, {{kTagCancel, "0"}}};
   });
 }
 
-bool CancelWatch::look(std::chrono::steady_clock::duration now) {
-  const bool isUnderWay = isUnderWay_(before_.volume);
+bool CancelWatch::look() {
+  const bool isClaimed = isClaimed_();  // before the tags, which the run writes before it ends
+  const bool isUnderWay = isUnderWay_(before_);
+  wasUnderWay_ = wasUnderWay_ || isUnderWay;
   try {
     status_ = tags_.value(kTagStatus);
   } catch (const TagStoreFailure&) {
     return ended_;  // the next look may succeed
   }
-  if (isUnderWay) {
-    wasUnderWay_ = true;
-    quietSince_.reset();
-  } else if (wasUnderWay_ && !quietSince_) {
-    quietSince_ = now;
-  }
-  // Where an old status was left in the store, a new one cannot be told from it.
-  const auto patience = before_.status.empty() ? kTimeForTheStatus : std::chrono::seconds(0);
-  ended_ = hasNewStatus() || (quietSince_ && now - *quietSince_ >= patience);
+  // The kernel may keep the volume locked for a program that has left, until its medium answers.
+  ended_ = !isClaimed && (hasNewStatus() || (wasUnderWay_ && !isUnderWay));
   return ended_;
 }
 
@@ -96,15 +87,16 @@ Answer CancelWatch::result() const {
 
 ExitCode cancelCommand(const CancelRequest& request) {
   StoredOrderTags tags(tagStorePath());
-  MountedRuns runs;
-  const RunLookup isUnderWay = [&runs](const std::string& volume) { return runs.isUnderWay(volume); };
+  OrderRuns runs;
+  const RunLookup isUnderWay = [&runs](const PendingOrder& order) { return runs.isUnderWay(order); };
+  const ClaimLookup isClaimed = [&runs] { return runs.claim().isHeldByAnother(); };
   const PendingOrder before = readPendingOrder(tags);
   const AskedToEnd asked = cancelOrder(tags, isUnderWay, request.notify);
   const ExitCode code = give(asked.answer);
   if (code != ExitCode::finished || (!request.wait && !asked.isNotified)) return code;
-  CancelWatch watch(tags, isUnderWay, before);
+  CancelWatch watch(tags, isUnderWay, isClaimed, before);
   const bool isOver = waitForTheEnd(watch, runs.loop(), request.wait ? kTimeToFollow : kTimeToFollowTheNotification);
-  if (watch.hasEnded()) takeBackRequest(tags, isUnderWay, before.volume);
+  if (watch.hasEnded()) takeBackRequest(tags, isClaimed, before.volume);
   if (!request.wait && !watch.hasEnded()) return code;
   if (!isOver) return give({ExitCode::failed, "No longer waiting; the run has been asked to end"});
   return give(watch.result());

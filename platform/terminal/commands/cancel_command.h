@@ -1,8 +1,6 @@
 #pragma once
 
-#include <chrono>
 #include <functional>
-#include <optional>
 #include <string>
 
 #include "platform/terminal/commands/order_command_pending.h"
@@ -18,33 +16,37 @@ struct AskedToEnd {
 /// that: no order, or one whose run has ended. Throws TagStoreFailure.
 AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::function<bool()>& notify);
 
+/// Whether a program holds the claim to the order: only such a program looks at the request.
+using ClaimLookup = std::function<bool()>;
+
 /// Once the run on that volume has ended: takes back a request that is still in the tag, since the run has followed the
 /// notification or was faster, and the order's next run would be cancelled by it. Throws TagStoreFailure.
-void takeBackRequest(OrderTags& tags, const RunLookup& isUnderWay, const std::string& volume);
+void takeBackRequest(OrderTags& tags, const ClaimLookup& isClaimed, const std::string& volume);
 
 /// Follows a run that was asked to end.
 class CancelWatch {
  public:
   /// `before`: the order as it was when the run was asked. The tags must outlive the watch.
-  CancelWatch(OrderTags& tags, RunLookup isUnderWay, PendingOrder before)
-      : tags_(tags), isUnderWay_(std::move(isUnderWay)), before_(std::move(before)) {}
+  CancelWatch(OrderTags& tags, RunLookup isUnderWay, ClaimLookup isClaimed, PendingOrder before)
+      : tags_(tags), isUnderWay_(std::move(isUnderWay)), isClaimed_(std::move(isClaimed)), before_(std::move(before)) {}
 
   /// Looks once; returns `hasEnded`.
-  bool look(std::chrono::steady_clock::duration now);
+  bool look();
 
   [[nodiscard]] bool hasEnded() const { return ended_; }
   /// What the looks so far came to.
   [[nodiscard]] Answer result() const;
 
  private:
+  /// Where an old status was left in the store, a new one cannot be told from it.
   [[nodiscard]] bool hasNewStatus() const { return before_.status.empty() && !status_.empty(); }
 
   OrderTags& tags_;
   const RunLookup isUnderWay_;
+  const ClaimLookup isClaimed_;
   const PendingOrder before_;
   std::string status_;
   bool wasUnderWay_ = false;
-  std::optional<std::chrono::steady_clock::duration> quietSince_;
   bool ended_ = false;
 };
 

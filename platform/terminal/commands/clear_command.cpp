@@ -10,15 +10,15 @@ namespace calvero {
 
 Answer clearOrder(OrderTags& tags, const RunLookup& isUnderWay) {
   return changeOrder(tags, [&](const PendingOrder& order) -> OrderChange {
-    const std::string name = printable(order.volume);
-    if (!order.volume.empty() && isUnderWay(order.volume)) {
-      return {{ExitCode::refused,
-               "A run on " + name + " is under way; wait until it has ended, or cancel it with calvero-cli cancel"},
-              {}};
-    }
     // Nothing is written for nothing: that would make a store.
     if (!order.exists() && !order.hasEnded() && order.cancel.empty() && order.method.empty()) {
       return {{ExitCode::finished, "There is no order."}, {}};
+    }
+    const std::string name = printable(order.volume);
+    if (isUnderWay(order)) {
+      return {{ExitCode::refused,
+               "A run on " + name + " is under way; wait until it has ended, or cancel it with calvero-cli cancel"},
+              {}};
     }
     // The store forgets no tag; an empty value means as little as none.
     return {{ExitCode::finished,
@@ -29,7 +29,8 @@ Answer clearOrder(OrderTags& tags, const RunLookup& isUnderWay) {
 
 ExitCode clearCommand() {
   StoredOrderTags tags(tagStorePath());
-  return give(clearOrder(tags, [](const std::string& volume) { return MountedRuns().isUnderWay(volume); }));
+  OrderRuns runs;
+  return give(clearOrder(tags, [&runs](const PendingOrder& order) { return !runs.keepOut(order); }));
 }
 
 }  // namespace calvero

@@ -3,8 +3,22 @@
 #include <algorithm>
 
 namespace calvero {
+namespace {
 
-Error MountedRuns::check(const std::string& volume) {
+/// Other commands hold the claim for a moment only.
+constexpr std::chrono::seconds kPatience{1};
+
+/// From a run's status to the end of its program: a message is shown in between.
+constexpr std::chrono::seconds kPatienceWithTheEnd{10};
+
+}  // namespace
+
+bool OrderRuns::keepOut(const PendingOrder& order) {
+  const auto patience = order.hasEnded() ? kPatienceWithTheEnd : kPatience;
+  return claim_.take(patience) != OrderClaim::Holder::another && !isHeld(order.volume);
+}
+
+Error OrderRuns::check(const std::string& volume) {
   const auto& names = app_.volumes().volumeNameArray;
   const auto found = std::ranges::find(names, volume);
   if (found == names.end()) return {ErrorCode::notFound, "look up", volume, "it is not mounted"};

@@ -3,22 +3,35 @@
 #include <string>
 
 #include "app/app_delegate.h"
+#include "platform/suite/order_claim.h"
+#include "platform/suite/suite_folder.h"
 #include "platform/terminal/commands/command_ports.h"
+#include "platform/terminal/commands/order_command_pending.h"
 
 namespace calvero {
 
-/// Asks the mounted volumes whether a run holds one of them. Event loop thread.
-class MountedRuns {
+/// Asks for the runs under way: of the order, by its claim, and others, by the lock on the volume. Event loop thread.
+class OrderRuns {
  public:
-  /// As RunLookup; a volume that is not mounted has no run.
-  bool isUnderWay(const std::string& volume) { return check(volume).code == ErrorCode::busy; }
+  /// As RunLookup.
+  bool isUnderWay(const PendingOrder& order) { return claim_.isHeldByAnother() || isHeld(order.volume); }
+
+  /// From now on no run of the order begins. False when one is under way. A run that has told its end is waited for,
+  /// since it is about to end.
+  bool keepOut(const PendingOrder& order);
+
   /// Whether the volume can be wiped now; `notFound` when it is not mounted.
   Error check(const std::string& volume);
 
   [[nodiscard]] const AppDelegate& app() const { return app_; }
   AsioEventLoop& loop() { return ports_.loop; }
+  OrderClaim& claim() { return claim_; }
 
  private:
+  /// A volume that is not mounted has no run.
+  bool isHeld(const std::string& volume) { return !volume.empty() && check(volume).code == ErrorCode::busy; }
+
+  OrderClaim claim_{tagStorePath()};
   CommandPorts ports_{Output::nowhere(), Answering::defaultButtons};
   AppDelegate app_{ports_.ports()};
 };

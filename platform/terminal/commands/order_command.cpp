@@ -20,8 +20,8 @@ namespace {
 /// Why an order that is in the store already stands in the way; empty when none does. What has ended may be replaced,
 /// though it is still pending; a run that goes on may not, though its order was called off.
 std::string whyTheEarlierOrderStands(const PendingOrder& earlier, const RunLookup& isUnderWay) {
-  const std::string name = printable(earlier.volume);
-  if (!earlier.volume.empty() && isUnderWay(earlier.volume)) {
+  const std::string name = earlier.volume.empty() ? "a volume" : printable(earlier.volume);
+  if (isUnderWay(earlier)) {
     return "The order for " + name + " is under way; wait until it has ended, or cancel it with calvero-cli cancel";
   }
   if (!earlier.isPending() || earlier.hasEnded()) return "";
@@ -55,8 +55,11 @@ class OrderCommand {
     order_.program = *program;
     std::optional<StopSignals> signals;  // from before the start: a signal ends the wait, not the word about the run
     if (request_.wait) signals.emplace(runs_.loop(), [this] { isStopped_ = true; });
-    const auto isUnderWay = [this](const std::string& volume) { return runs_.isUnderWay(volume); };
-    const PlacedOrder placed = placeOrder(order_, tags_, isUnderWay, startDetached);
+    const auto isUnderWay = [this](const PendingOrder& earlier) { return !runs_.keepOut(earlier); };
+    const auto start = [this](const std::string& path) { return startDetached(path, runs_.claim().descriptor()); };
+    const PlacedOrder placed = placeOrder(order_, tags_, isUnderWay, start);
+    isClaimed_ = runs_.claim().descriptor() >= 0;
+    runs_.claim().handOver();
     const ExitCode code = give(placed.answer);
     return placed.program && request_.wait ? wait(*placed.program) : code;
   }
@@ -79,9 +82,9 @@ class OrderCommand {
   }
 
   ExitCode wait(StartedProgram& program) {
-    OrderWatch watch(tags_, program);
+    OrderWatch watch(tags_, program, [this] { return isClaimed_ && !runs_.claim().isHeldByAnother(); });
     bool hasEnded = false;
-    const auto look = [&] { hasEnded = watch.hasEnded(std::chrono::steady_clock::now().time_since_epoch()); };
+    const auto look = [&] { hasEnded = watch.hasEnded(); };
     runs_.loop().startTimer(kTagLookInterval, TimerKind::repeating, look);
     const auto isOver = [&] { return hasEnded || isStopped_; };
     if (request_.timeoutSeconds) {
@@ -99,7 +102,8 @@ class OrderCommand {
   const OrderRequest& request_;
   NewOrder order_;
   StoredOrderTags tags_{tagStorePath()};
-  MountedRuns runs_;
+  OrderRuns runs_;
+  bool isClaimed_ = false;  ///< by the started program
   bool isStopped_ = false;
 };
 

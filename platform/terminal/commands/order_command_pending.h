@@ -30,8 +30,8 @@ struct Answer {
   std::string line;
 };
 
-/// Whether a run holds the volume of that name.
-using RunLookup = std::function<bool(const std::string& volume)>;
+/// Whether a run of the order, or another one on its volume, is under way.
+using RunLookup = std::function<bool(const PendingOrder& order)>;
 
 /// Throws TagStoreFailure.
 PendingOrder readPendingOrder(OrderTags& tags);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <chrono>
-#include <optional>
+#include <functional>
 
 #include "platform/terminal/commands/order_command_pending.h"
 #include "platform/terminal/commands/window_program.h"
@@ -14,23 +14,26 @@ constexpr std::chrono::milliseconds kTagLookInterval{200};
 /// Follows a run that was ordered, from the start of its program to its end.
 class OrderWatch {
  public:
-  /// Both must outlive the watch.
-  OrderWatch(OrderTags& tags, StartedProgram& program) : tags_(tags), program_(program) {}
+  /// `hasLeft`: whether the program has given up its claim to the order, as it does last of all. The kernel may keep a
+  /// program that has left until a medium answers. Both objects must outlive the watch.
+  OrderWatch(OrderTags& tags, StartedProgram& program, std::function<bool()> hasLeft)
+      : tags_(tags), program_(program), hasLeft_(std::move(hasLeft)) {}
 
   /// Whether the run has ended, in one look. Throws TagStoreFailure only where nothing is left to wait for.
-  bool hasEnded(std::chrono::steady_clock::duration now);
+  bool hasEnded();
 
   /// Once it has ended: what became of it. `volume` is what a person reads of it.
   [[nodiscard]] Answer result(const std::string& volume, std::int32_t method) const;
 
  private:
   void readTags();
+  [[nodiscard]] bool isCancelled() const;
 
   OrderTags& tags_;
   StartedProgram& program_;
+  const std::function<bool()> hasLeft_;
   std::string status_;
-  bool isCancelled_ = false;
-  std::optional<std::chrono::steady_clock::duration> statusSeenAt_;
+  bool isCancelAsked_ = false;
 };
 
 }  // namespace calvero

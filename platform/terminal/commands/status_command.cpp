@@ -63,8 +63,7 @@ std::string statusJson(const PendingOrder& order, RunState run) {
 ExitCode statusCommand(const ListRequest& request) {
   StoredOrderTags tags(tagStorePath());
   const PendingOrder order = readPendingOrder(tags);
-  const bool isUnderWay = !order.volume.empty() && MountedRuns().isUnderWay(order.volume);
-  const RunState run = isUnderWay ? RunState::underWay : RunState::none;
+  const RunState run = OrderRuns().isUnderWay(order) ? RunState::underWay : RunState::none;
   const Output output(STDOUT_FILENO);
   if (request.json) {
     output.line(statusJson(order, run));

@@ -7,9 +7,12 @@
 
 #include <cerrno>
 #include <csignal>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "platform/linux/program_search.h"
+#include "platform/suite/order_claim.h"
 
 namespace calvero {
 namespace {
@@ -25,7 +28,10 @@ class DetachedProgram : public StartedProgram {
     if (ending_.empty()) {
       int status = 0;
       const pid_t answer = ::waitpid(id_, &status, WNOHANG);
-      if (answer == id_) ending_ = inWords(status);
+      if (answer == id_) {
+        ending_ = inWords(status);
+        if (WIFEXITED(status)) exitCode_ = WEXITSTATUS(status);
+      }
       // Whoever started this process may have had it ignore the end of its children.
       if (answer < 0 && errno == ECHILD) ending_ = "in an unknown way";
     }
@@ -33,6 +39,7 @@ class DetachedProgram : public StartedProgram {
   }
 
   [[nodiscard]] std::string ending() const override { return ending_; }
+  [[nodiscard]] std::optional<int> exitCode() const override { return exitCode_; }
 
  private:
   static std::string inWords(int status) {
@@ -42,6 +49,7 @@ class DetachedProgram : public StartedProgram {
 
   const pid_t id_;
   std::string ending_;
+  std::optional<int> exitCode_;
 };
 
 void throwIfFailed(int error, const char* what) {
@@ -52,7 +60,7 @@ void throwIfFailed(int error, const char* what) {
 /// itself started to ignore (nohup) stays ignored.
 class DetachedStart {
  public:
-  DetachedStart() {
+  explicit DetachedStart(int claim) : claim_(claim) {
     throwIfFailed(::posix_spawnattr_init(&attributes_), "posix_spawnattr_init");
     throwIfFailed(::posix_spawn_file_actions_init(&files_), "posix_spawn_file_actions_init");
     sigset_t ignoredHere;
@@ -66,8 +74,13 @@ class DetachedStart {
       throwIfFailed(::posix_spawn_file_actions_addopen(&files_, stream, "/dev/null", O_RDWR, kNoNewFile),
                     "posix_spawn_file_actions_addopen");
     }
-    throwIfFailed(::posix_spawn_file_actions_addclosefrom_np(&files_, STDERR_FILENO + 1),
-                  "posix_spawn_file_actions_addclosefrom_np");
+    if (claim_ >= 0) {
+      throwIfFailed(::posix_spawn_file_actions_adddup2(&files_, claim_, kInheritedClaim),
+                    "posix_spawn_file_actions_adddup2");
+    }
+    throwIfFailed(
+        ::posix_spawn_file_actions_addclosefrom_np(&files_, claim_ >= 0 ? kInheritedClaim + 1 : kInheritedClaim),
+        "posix_spawn_file_actions_addclosefrom_np");
   }
   DetachedStart(const DetachedStart&) = delete;
   DetachedStart& operator=(const DetachedStart&) = delete;
@@ -78,12 +91,23 @@ class DetachedStart {
 
   [[nodiscard]] pid_t start(std::string path) const {
     char* const arguments[] = {path.data(), nullptr};
+    std::string claimVariable = std::string(OrderClaim::kInheritedVariable) + '=';
+    std::vector<char*> environment;
+    for (char** entry = environ; *entry != nullptr; ++entry) {
+      if (!std::string_view(*entry).starts_with(claimVariable)) environment.push_back(*entry);
+    }
+    claimVariable += std::to_string(kInheritedClaim);
+    if (claim_ >= 0) environment.push_back(claimVariable.data());
+    environment.push_back(nullptr);
     pid_t id = 0;
-    throwIfFailed(::posix_spawn(&id, path.c_str(), &files_, &attributes_, arguments, environ), path.c_str());
+    throwIfFailed(::posix_spawn(&id, path.c_str(), &files_, &attributes_, arguments, environment.data()), path.c_str());
     return id;
   }
 
  private:
+  static constexpr int kInheritedClaim = STDERR_FILENO + 1;
+
+  const int claim_;
   posix_spawnattr_t attributes_{};
   posix_spawn_file_actions_t files_{};
 };
@@ -99,8 +123,8 @@ std::optional<std::string> findWindowProgram() {
   return findWindowProgram(ownFolder(), searchPath());
 }
 
-std::unique_ptr<StartedProgram> startDetached(const std::string& path) {
-  return std::make_unique<DetachedProgram>(DetachedStart().start(path));
+std::unique_ptr<StartedProgram> startDetached(const std::string& path, int claim) {
+  return std::make_unique<DetachedProgram>(DetachedStart(claim).start(path));
 }
 
 }  // namespace calvero

@@ -18,6 +18,8 @@ class StartedProgram {
   virtual bool hasEnded() = 0;
   /// "exit code 1", "signal 9"; empty before its end.
   [[nodiscard]] virtual std::string ending() const = 0;
+  /// Nothing before its end, and where it is not known or a signal has ended it.
+  [[nodiscard]] virtual std::optional<int> exitCode() const = 0;
 };
 
 /// Throws std::system_error when the program cannot be started.
@@ -29,7 +31,8 @@ std::optional<std::string> findWindowProgram(const std::string& ownFolder, const
 /// The same for this process.
 std::optional<std::string> findWindowProgram();
 
-/// Starts the program in a session of its own, without this process's standard streams and other open files.
-std::unique_ptr<StartedProgram> startDetached(const std::string& path);
+/// Starts the program in a session of its own, without this process's standard streams and other open files. It
+/// inherits an order's claim by the descriptor `claim`; a negative one is none.
+std::unique_ptr<StartedProgram> startDetached(const std::string& path, int claim);
 
 }  // namespace calvero

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "platform/terminal/commands/order_command_pending.h"
 #include "platform/terminal/commands/order_tags.h"
 #include "platform/terminal/commands/window_program.h"
 #include "remote/remote_order.h"
@@ -62,13 +64,20 @@ class FakeOrderTags : public OrderTags {
 /// A program that ends when the test says so.
 class FakeProgram : public StartedProgram {
  public:
-  void end(const std::string& ending = "exit code 0") { ending_ = ending; }
+  void end(int exitCode = 0) {
+    ending_ = "exit code " + std::to_string(exitCode);
+    exitCode_ = exitCode;
+  }
+  /// By a signal, or where nobody is told how.
+  void endWithoutCode(const std::string& ending) { ending_ = ending; }
 
   bool hasEnded() override { return !ending_.empty(); }
   [[nodiscard]] std::string ending() const override { return ending_; }
+  [[nodiscard]] std::optional<int> exitCode() const override { return exitCode_; }
 
  private:
   std::string ending_;
+  std::optional<int> exitCode_;
 };
 
 /// Which volumes a run holds.
@@ -76,12 +85,19 @@ class FakeRuns {
  public:
   void begin(const std::string& volume) { held_.insert(volume); }
   void end(const std::string& volume) { held_.erase(volume); }
+  /// A run of the order, wherever it is in its course.
+  void claim() { isClaimed_ = true; }
+  void giveUpClaim() { isClaimed_ = false; }
+  [[nodiscard]] auto claimLookup() const {
+    return [this] { return isClaimed_; };
+  }
   [[nodiscard]] auto lookup() const {
-    return [this](const std::string& volume) { return held_.contains(volume); };
+    return [this](const PendingOrder& order) { return isClaimed_ || held_.contains(order.volume); };
   }
 
  private:
   std::set<std::string> held_;
+  bool isClaimed_ = false;
 };
 
 }  // namespace calvero::testing

@@ -104,7 +104,7 @@ class TakeBackRequest : public ::testing::Test {
     tags_.put(kTagCancel, "1");
   }
   std::string requestAfterwards() {
-    takeBackRequest(tags_, runs_.lookup(), "stick");
+    takeBackRequest(tags_, runs_.claimLookup(), "stick");
     return tags_.peek(kTagCancel);
   }
 
@@ -127,36 +127,44 @@ TEST_F(TakeBackRequest, StoresNothingWhenTheRunHasDoneSoItself) {
 }
 
 TEST_F(TakeBackRequest, LeavesTheRequestOfARunThatHasBegunSinceOrOfAnotherOrder) {
-  runs_.begin("stick");
+  runs_.claim();
   EXPECT_EQ(requestAfterwards(), "1");
-  runs_.end("stick");
+  runs_.giveUpClaim();
   tags_.put(kTagDrive, "disk");
   EXPECT_EQ(requestAfterwards(), "1");
+}
+
+TEST_F(TakeBackRequest, HeedsNoRunThatLooksAtNoRequest) {
+  runs_.begin("stick");
+  EXPECT_EQ(requestAfterwards(), "0");
 }
 
 class CancelWatchTest : public ::testing::Test {
  protected:
   CancelWatchTest() {
     tags_.putOrder("stick", "3");
+    runs_.claim();
     runs_.begin("stick");
   }
 
-  CancelWatch watch() { return {tags_, runs_.lookup(), readPendingOrder(tags_)}; }
+  CancelWatch watch() { return {tags_, runs_.lookup(), runs_.claimLookup(), readPendingOrder(tags_)}; }
 
   Journal journal_;
   FakeOrderTags tags_{journal_};
   FakeRuns runs_;
 };
 
-constexpr std::chrono::seconds kBeginning{0};
-
-TEST_F(CancelWatchTest, EndsWithTheStatus) {
+TEST_F(CancelWatchTest, EndsWithTheProgramThatHasToldTheStatus) {
   CancelWatch run = watch();
-  EXPECT_FALSE(run.look(kBeginning));
+  EXPECT_FALSE(run.look());
   EXPECT_THAT(run.result().line, HasSubstr("has not ended yet"));
   EXPECT_EQ(run.result().exitCode, ExitCode::failed);
+  runs_.end("stick");
+  EXPECT_FALSE(run.look()) << "it shows a message now";
   tags_.put(kTagStatus, kStatusFailed);
-  EXPECT_TRUE(run.look(kBeginning));
+  EXPECT_FALSE(run.look());
+  runs_.giveUpClaim();
+  EXPECT_TRUE(run.look());
   EXPECT_EQ(run.result().exitCode, ExitCode::finished);
   EXPECT_THAT(run.result().line, StartsWith("Cancelled: "));
 }
@@ -164,36 +172,49 @@ TEST_F(CancelWatchTest, EndsWithTheStatus) {
 TEST_F(CancelWatchTest, TellsOfARunThatWasFasterThanItsCancel) {
   CancelWatch run = watch();
   tags_.put(kTagStatus, kStatusFinished);
-  EXPECT_TRUE(run.look(kBeginning));
+  runs_.end("stick");
+  runs_.giveUpClaim();
+  EXPECT_TRUE(run.look());
   EXPECT_EQ(run.result().exitCode, ExitCode::finished);
   EXPECT_THAT(run.result().line, StartsWith("Finished: "));
 }
 
-TEST_F(CancelWatchTest, GivesARunThatHasLeftTheVolumeTimeForItsStatus) {
+TEST_F(CancelWatchTest, DoesNotWaitForAVolumeThatIsKeptByAProgramThatHasLeft) {
   CancelWatch run = watch();
-  EXPECT_FALSE(run.look(kBeginning));
+  EXPECT_FALSE(run.look());
+  tags_.put(kTagStatus, kStatusFailed);
+  runs_.giveUpClaim();
+  EXPECT_TRUE(run.look());
+  EXPECT_THAT(run.result().line, StartsWith("Cancelled: "));
+}
+
+TEST_F(CancelWatchTest, EndsWithAProgramThatLeavesNoStatus) {
+  CancelWatch run = watch();
+  EXPECT_FALSE(run.look());
   runs_.end("stick");
-  EXPECT_FALSE(run.look(std::chrono::seconds(1)));
-  EXPECT_FALSE(run.look(std::chrono::seconds(15)));
-  EXPECT_TRUE(run.look(std::chrono::seconds(16)));
+  runs_.giveUpClaim();
+  EXPECT_TRUE(run.look());
   EXPECT_EQ(run.result().exitCode, ExitCode::finished);
   EXPECT_THAT(run.result().line, HasSubstr("has ended"));
 }
 
-TEST_F(CancelWatchTest, TakesTheVolumesWordWhereAnOldStatusWasLeft) {
+TEST_F(CancelWatchTest, TakesTheProgramsEndForTheRunsWhereAnOldStatusWasLeft) {
   tags_.put(kTagStatus, kStatusFinished);
   CancelWatch run = watch();
-  EXPECT_FALSE(run.look(kBeginning));
+  EXPECT_FALSE(run.look());
   runs_.end("stick");
-  EXPECT_TRUE(run.look(kBeginning));
+  EXPECT_FALSE(run.look());
+  runs_.giveUpClaim();
+  EXPECT_TRUE(run.look());
   EXPECT_THAT(run.result().line, HasSubstr("has ended"));
 }
 
 TEST_F(CancelWatchTest, DoesNotTakeARunThatHasNotBegunForOneThatHasEnded) {
   runs_.end("stick");
+  runs_.giveUpClaim();
   CancelWatch run = watch();
-  EXPECT_FALSE(run.look(kBeginning));
-  EXPECT_FALSE(run.look(std::chrono::seconds(100)));
+  EXPECT_FALSE(run.look());
+  EXPECT_FALSE(run.look());
   EXPECT_EQ(run.result().exitCode, ExitCode::failed);
   EXPECT_THAT(run.result().line, HasSubstr("No run has followed"));
 }
@@ -201,10 +222,12 @@ TEST_F(CancelWatchTest, DoesNotTakeARunThatHasNotBegunForOneThatHasEnded) {
 TEST_F(CancelWatchTest, OutlastsAStoreThatCannotBeReadForAWhile) {
   CancelWatch run = watch();
   tags_.setReadable(false);
-  EXPECT_FALSE(run.look(kBeginning));
+  EXPECT_FALSE(run.look());
   tags_.setReadable(true);
   tags_.put(kTagStatus, kStatusFailed);
-  EXPECT_TRUE(run.look(kBeginning));
+  runs_.end("stick");
+  runs_.giveUpClaim();
+  EXPECT_TRUE(run.look());
 }
 
 }  // namespace

@@ -40,6 +40,14 @@ TEST_F(ClearOrder, IsRefusedWhileARunIsUnderWay) {
   EXPECT_THAT(journal_.all(), IsEmpty());
 }
 
+TEST_F(ClearOrder, IsRefusedWhileARunOfTheOrderHoldsNoVolumeYetOrNoLonger) {
+  tags_.putOrder("stick", "3");
+  tags_.put(kTagStatus, kStatusFinished);
+  runs_.claim();
+  EXPECT_EQ(clear().exitCode, ExitCode::refused);
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
 TEST_F(ClearOrder, IsRefusedWhenARunBeginsBeforeItIsRemoved) {
   tags_.putOrder("disk", "3");
   tags_.put(kTagStatus, kStatusFinished);

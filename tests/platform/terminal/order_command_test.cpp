@@ -71,6 +71,16 @@ TEST_F(PlaceOrder, IsRefusedWhileAnEarlierOrderIsUnderWay) {
   EXPECT_THAT(journal_.all(), IsEmpty());
 }
 
+TEST_F(PlaceOrder, IsRefusedWhileARunOfTheOrderHoldsNoVolumeYetOrNoLonger) {
+  tags_.putOrder("disk", "8");
+  tags_.put(kTagStatus, kStatusFinished);
+  runs_.claim();
+  const PlacedOrder placed = place();
+  EXPECT_EQ(placed.answer.exitCode, ExitCode::refused);
+  EXPECT_THAT(placed.answer.line, AllOf(HasSubstr("disk"), HasSubstr("under way")));
+  EXPECT_THAT(journal_.all(), IsEmpty());
+}
+
 TEST_F(PlaceOrder, IsRefusedWhileAnEarlierOrderHasNotEnded) {
   tags_.putOrder("disk", "8");
   const PlacedOrder placed = place();
@@ -129,59 +139,77 @@ TEST_F(PlaceOrder, StoresNothingWhenTheStoreCannotBeRead) {
 class OrderWatchTest : public ::testing::Test {
  protected:
   [[nodiscard]] Answer result() const { return watch_.result("stick (/media/stick)", 2); }
-  bool lookAfter(std::chrono::seconds time) { return watch_.hasEnded(time); }
+  bool look() { return watch_.hasEnded(); }
 
   Journal journal_;
   FakeOrderTags tags_{journal_};
   FakeProgram program_;
-  OrderWatch watch_{tags_, program_};
+  bool hasLeft_ = false;
+  OrderWatch watch_{tags_, program_, [this] { return hasLeft_; }};
 };
 
-constexpr std::chrono::seconds kStart{0};
-
 TEST_F(OrderWatchTest, WaitsForTheProgramAlsoOnceThereIsAStatus) {
-  EXPECT_FALSE(lookAfter(kStart));
+  EXPECT_FALSE(look());
   tags_.put(kTagStatus, kStatusFinished);
-  EXPECT_FALSE(lookAfter(kStart));
+  EXPECT_FALSE(look());
   program_.end();
-  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::finished);
   EXPECT_THAT(result().line, AllOf(StartsWith("Finished: "), HasSubstr("stick (/media/stick)"),
                                    HasSubstr("method 3 (dod)"), HasSubstr("calvero-cli clear")));
 }
 
-TEST_F(OrderWatchTest, WaitsNoLongerThanHalfAMinuteForAProgramThatHasReportedItsEnd) {
-  tags_.put(kTagStatus, kStatusFinished);
-  EXPECT_FALSE(lookAfter(kStart));
-  EXPECT_FALSE(lookAfter(std::chrono::seconds(29)));
-  EXPECT_TRUE(lookAfter(std::chrono::seconds(30)));
-  EXPECT_EQ(result().exitCode, ExitCode::finished);
+TEST_F(OrderWatchTest, DoesNotWaitForAProgramThatHasLeftAndIsKeptByTheKernel) {
+  hasLeft_ = true;
+  EXPECT_FALSE(look()) << "it may have ended without a status";
+  tags_.put(kTagStatus, kStatusFailed);
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::failed);
+  tags_.put(kTagCancel, "1");
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::cancelled) << "the tags tell where the exit code does not";
 }
 
-TEST_F(OrderWatchTest, ReportsALostVolumeAsFailed) {
-  tags_.put(kTagStatus, kStatusFailed);
-  program_.end();
-  EXPECT_TRUE(lookAfter(kStart));
+TEST_F(OrderWatchTest, ReportsFailedWritesOfAFinishedRunAsFailed) {
+  tags_.put(kTagStatus, kStatusFinished);
+  program_.end(1);
+  EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::failed);
   EXPECT_THAT(result().line, AllOf(StartsWith("Failed: "), HasSubstr("may remain readable")));
 }
 
-TEST_F(OrderWatchTest, ReportsARunThatHasFollowedARequestAsCancelled) {
+TEST_F(OrderWatchTest, ReportsALostVolumeAsFailed) {
+  tags_.put(kTagStatus, kStatusFailed);
+  tags_.put(kTagCancel, "1");  // which the run had no time to follow
+  program_.end(1);
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::failed);
+  EXPECT_THAT(result().line, AllOf(StartsWith("Failed: "), HasSubstr("may remain readable")));
+}
+
+TEST_F(OrderWatchTest, ReportsARunThatWasCancelledByOtherMeansThanATagAsCancelled) {
+  tags_.put(kTagStatus, kStatusFailed);
+  program_.end(4);
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::cancelled);
+}
+
+TEST_F(OrderWatchTest, ReportsARunThatHasFollowedARequestAsCancelledWhereNoExitCodeIsKnown) {
   tags_.put(kTagCancel, "0");
   tags_.put(kTagStatus, kStatusFailed);
-  program_.end();
-  EXPECT_TRUE(lookAfter(kStart));
+  program_.endWithoutCode("in an unknown way");
+  EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::cancelled);
   EXPECT_THAT(result().line, StartsWith("Cancelled: "));
 }
 
 TEST_F(OrderWatchTest, RemembersARequestThatIsTakenBackBeforeTheEnd) {
   tags_.put(kTagCancel, "1");
-  EXPECT_FALSE(lookAfter(kStart));
+  EXPECT_FALSE(look());
   tags_.put(kTagCancel, "");
   tags_.put(kTagStatus, kStatusFailed);
-  program_.end();
-  EXPECT_TRUE(lookAfter(kStart));
+  program_.endWithoutCode("in an unknown way");
+  EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::cancelled);
 }
 
@@ -189,31 +217,31 @@ TEST_F(OrderWatchTest, ReportsARunThatFinishesInSpiteOfARequestAsFinished) {
   tags_.put(kTagCancel, "1");
   tags_.put(kTagStatus, kStatusFinished);
   program_.end();
-  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::finished);
 }
 
 TEST_F(OrderWatchTest, ReportsAProgramThatEndsWithoutAStatusAsFailed) {
-  program_.end("signal 9");
-  EXPECT_TRUE(lookAfter(kStart));
+  program_.endWithoutCode("signal 9");
+  EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::failed);
   EXPECT_THAT(result().line, AllOf(HasSubstr("without a status"), HasSubstr("signal 9")));
 }
 
 TEST_F(OrderWatchTest, OutlastsAStoreThatCannotBeReadForAWhile) {
   tags_.setReadable(false);
-  EXPECT_FALSE(lookAfter(kStart));
+  EXPECT_FALSE(look());
   tags_.setReadable(true);
   tags_.put(kTagStatus, kStatusFinished);
   program_.end();
-  EXPECT_TRUE(lookAfter(kStart));
+  EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::finished);
 }
 
 TEST_F(OrderWatchTest, TellsOfAnUnreadableStoreWhenTheProgramHasEnded) {
   tags_.setReadable(false);
   program_.end();
-  EXPECT_THROW(lookAfter(kStart), TagStoreFailure);
+  EXPECT_THROW(look(), TagStoreFailure);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -18,6 +19,8 @@
 
 namespace calvero {
 namespace {
+
+constexpr int kNoClaim = -1;
 
 class WindowProgramTest : public ::testing::Test {
  protected:
@@ -74,12 +77,14 @@ TEST_F(WindowProgramTest, IsNeverTakenFromTheFolderThatHappensToBeTheCurrentOne)
 }
 
 TEST_F(WindowProgramTest, TellsHowItEnded) {
-  const auto failing = startDetached(makeProgram("a", "exit 7"));
+  const auto failing = startDetached(makeProgram("a", "exit 7"), kNoClaim);
   waitForEnd(*failing);
   EXPECT_EQ(failing->ending(), "exit code 7");
-  const auto killed = startDetached(makeProgram("b", "kill -9 $$"));
+  EXPECT_EQ(failing->exitCode(), 7);
+  const auto killed = startDetached(makeProgram("b", "kill -9 $$"), kNoClaim);
   waitForEnd(*killed);
   EXPECT_EQ(killed->ending(), "signal 9");
+  EXPECT_EQ(killed->exitCode(), std::nullopt);
 }
 
 TEST_F(WindowProgramTest, HasASessionAndStreamsOfItsOwn) {
@@ -89,7 +94,8 @@ TEST_F(WindowProgramTest, HasASessionAndStreamsOfItsOwn) {
       startDetached(makeProgram("a",
                                 "echo $$ $(cut -d ' ' -f 6 /proc/$$/stat) $(readlink /proc/$$/fd/0 /proc/$$/fd/1"
                                 " /proc/$$/fd/2) $(readlink /proc/$$/fd/" +
-                                    std::to_string(kept) + " || echo closed) > \"$0.seen\""));
+                                    std::to_string(kept) + " || echo closed) > \"$0.seen\""),
+                    kNoClaim);
   waitForEnd(*program);
   ::close(kept);
   std::istringstream seen(wordsIn(in("a.seen")));
@@ -100,12 +106,22 @@ TEST_F(WindowProgramTest, HasASessionAndStreamsOfItsOwn) {
   EXPECT_EQ(other, "closed");
 }
 
+TEST_F(WindowProgramTest, InheritsTheClaimAndLearnsItsDescriptor) {
+  const int claim = ::open(in("claim").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+  const auto program =
+      startDetached(makeProgram("a", R"(readlink /proc/$$/fd/"$CALVERO_ORDER_CLAIM" > "$0.seen")"), claim);
+  waitForEnd(*program);
+  ::close(claim);
+  EXPECT_EQ(wordsIn(in("a.seen")), in("claim") + '\n');
+  EXPECT_EQ(std::getenv("CALVERO_ORDER_CLAIM"), nullptr) << "it is the program's alone";
+}
+
 TEST_F(WindowProgramTest, ThatTheSystemRefusesToStartIsAnError) {
-  EXPECT_THROW(startDetached(in("none")), std::system_error);
+  EXPECT_THROW(startDetached(in("none"), kNoClaim), std::system_error);
   const std::string noProgram = in("text");
   std::ofstream(noProgram) << "";
   ::chmod(noProgram.c_str(), S_IRWXU);
-  EXPECT_THROW(startDetached(noProgram), std::system_error);
+  EXPECT_THROW(startDetached(noProgram, kNoClaim), std::system_error);
 }
 
 }  // namespace
