@@ -202,6 +202,8 @@ class AppDelegate {
   void setVolumePageTexts();
   void setProgressPageAndSideBarTexts();
   void readRemoteOrder();
+  /// Lists the ordered volume again until its size is known. False when the order has ended without that.
+  bool learnsSize();
   void appendVolume(VolumeTable& table, const MountedVolume& volume);
   void selectMethod(std::int32_t number);
   void resetMethodChoice();

@@ -4,9 +4,17 @@
 #include "ports/controls.h"
 #include "ports/event_loop.h"
 #include "ports/suite_web.h"
+#include "ports/system_log.h"
 #include "ports/tag_store.h"
 
 namespace calvero {
+namespace {
+
+/// A volume that was busy when it was listed answers after a while, or never.
+constexpr int kMostListings = 5;
+constexpr std::chrono::seconds kPauseBetweenListings{2};
+
+}  // namespace
 
 std::optional<std::string> Authentication::GetValueForTag(const std::string& tag) {
   return store_->value(tag);
@@ -33,7 +41,24 @@ void AppDelegate::myCloud() {
   shell_.display = 0;
   ports_.controls.orderOut(Control::window);
   ports_.controls.leaveTaskBar();
+  if (selection().capacityBytes() == 0 && !learnsSize()) return;
   proceed();
+}
+
+/// Without a size its free space would be taken for nothing, and the run would tell a success.
+bool AppDelegate::learnsSize() {
+  for (int listing = 0; listing < kMostListings; ++listing) {
+    ports_.eventLoop.serveUntil([] { return false; }, kPauseBetweenListings);
+    if (order_.cloudTerm != 0) return false;  // cancelled meanwhile
+    ports_.controls.clearVolumes();
+    volumes_ = std::make_shared<VolumeTable>();
+    loadVolumes();
+    if (volumes_->volumeNameArray.empty()) return false;  // told, as a volume that is not mounted
+    if (selection().capacityBytes() != 0) return true;
+  }
+  ports_.log.notice("the volume does not tell its size; nothing is wiped");
+  reportUnknownError(*run_);
+  return false;
 }
 
 void AppDelegate::checkForTermination() {

@@ -1,6 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "tests/fakes/world.h"
 
 namespace calvero {
@@ -77,6 +81,69 @@ TEST_F(RemoteMode, HidesTheWindowAndStartsTheRunWithoutAsking) {
                                          "setText tfElapsedData \" \"", "setText tfElapsedTime \"00:00:00\"",
                                          "setText tfElapsedData \"0.00 KB\"", "sleep 1", "detach", "detach"));
   EXPECT_EQ(app.shell().display, 0);
+}
+
+/// A volume that did not answer when it was listed.
+class RemoteModeWithoutASize : public RemoteMode {
+ protected:
+  RemoteModeWithoutASize() {
+    world.order("SLOW", "1");
+    world.loop.letLimitsPass();
+    list(0);
+  }
+
+  void list(std::uint64_t bytes) {
+    world.volumes.remove("SLOW");
+    MountedVolume slow;
+    slow.name = "SLOW";
+    slow.mountPath = "/media/SLOW";
+    slow.formatDescription = "ext4";
+    slow.availableBytes = bytes;
+    slow.totalBytes = bytes;
+    world.volume(slow);
+  }
+};
+
+TEST_F(RemoteModeWithoutASize, ListsAgainUntilItIsKnownAndRuns) {
+  int listings = 0;
+  world.loop.whenLimitPasses([&] {
+    if (++listings == 3) list(40'000);
+  });
+  const AppDelegate& app = world.launch();
+  EXPECT_EQ(listings, 3);
+  EXPECT_EQ(app.volumes().volumeNameArray, std::vector<std::string>{"SLOW"});
+  EXPECT_EQ(app.freeSpaceOnDisk(), 40'000U);
+  world.runWorker();
+  EXPECT_THAT(world.journal.only({"create"}), ElementsAre("create .temp0"));
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "2");
+}
+
+TEST_F(RemoteModeWithoutASize, EndsAsALostVolumeWhenItNeverIsKnown) {
+  world.launch();
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_EQ(world.loop.terminations(), 1);
+  EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::failed);
+  EXPECT_THAT(world.threads.names(), IsEmpty());
+  EXPECT_THAT(world.alerts.shown(), IsEmpty());
+}
+
+TEST_F(RemoteModeWithoutASize, EndsAsAMissingVolumeWhenItIsTakenOut) {
+  world.loop.whenLimitPasses([this] { world.volumes.remove("SLOW"); });
+  world.launch();
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_EQ(world.loop.terminations(), 1);
+  EXPECT_THAT(world.threads.names(), IsEmpty());
+}
+
+TEST_F(RemoteModeWithoutASize, IsCancelledWhileItIsListedAgain) {
+  bool isSent = false;
+  world.loop.whenLimitPasses([&] {
+    if (!std::exchange(isSent, true)) world.systemNotifications.send("cancel wipe", "cancel");
+  });
+  const AppDelegate& app = world.launch();
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_EQ(app.currentRun()->outcome, RunOutcome::cancelled);
+  EXPECT_THAT(world.threads.names(), Not(Contains("calvero-wipe")));
 }
 
 TEST_F(RemoteMode, LeavesTheOnlineTagAfterAFinishedRun) {
