@@ -103,6 +103,15 @@ class Administrator(SystemTest):
 
     # Root's side
 
+    def testWhereNotEvenRootMayWriteRootIsNotSentToRoot(self):
+        target = self.makeVolume()
+        subprocess.run(["chattr", "+i", target.path], check=True)
+        for arguments in (("wipe", target.path, "--yes"), ("order", target.path, "--method", "1")):
+            with self.subTest(arguments[0]):
+                ended = self.runProgram(*arguments)
+                self.assertRefused(ended, "Not even the administrator", target.name)
+                self.assertNotIn("sudo", ended.stderr)
+
     def testOnlyAVolumeAsItIsListedIsTakenFromTheUser(self):
         target = self.makeForbidden()
         inside = os.path.join(target.path, "folder")

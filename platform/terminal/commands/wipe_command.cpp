@@ -46,7 +46,7 @@ class WipeCommand {
     const auto style =
         request_.json || request_.quiet ? ProgressStyle::none : progressStyleOf(progress, std::getenv("TERM"));
     WipeCommandSession session(ports_, app_, progress, style);
-    if (!choose() || !enterMethodPage()) return closed();
+    if (!isChosen()) return closed();
     announce();
     session.run();
     const bool threadsEnded = ports_.threads.waitForAll(kTimeForThreadsToEnd);
@@ -57,6 +57,14 @@ class WipeCommand {
   }
 
  private:
+  bool isChosen() {
+    try {
+      return choose() && enterMethodPage();
+    } catch (const NoticeLeft&) {
+      return cancel();
+    }
+  }
+
   /// Volume and method, from the command line or by asking; false when there is none.
   bool choose() {
     const auto volumes = offeredVolumes(app_);
@@ -73,7 +81,9 @@ class WipeCommand {
     report_.mountPath = volumes[*row].mountPath;
     report_.freeBytes = volumes[*row].availableBytes;
     app_.setCurrentSelection(*row);
-    const Error error = app_.checkSelectedVolume();
+    Error error = app_.checkSelectedVolume();
+    // A file system that has turned read-only by itself may still look writable.
+    if (!error.failed() && volumes[*row].readOnly) error.code = ErrorCode::readOnly;
     if (error.code == ErrorCode::notPermitted) return refuseForWantOfRights(error);
     if (error.failed()) return refuse(refusalLine(report_, error));
     if (!method_ && isPersonThere_ && !request_.yes) {
@@ -85,7 +95,6 @@ class WipeCommand {
 
   /// Refuses, unless a person has the administrator's program take the place of this one.
   bool refuseForWantOfRights(const Error& error) {
-    if (isAdministrator()) return refuse(notPermittedToAnyoneLine(report_));
     const auto command = commandForAdministrator(request_, *report_.mountPath);
     if (!command) return refuse(refusalLine(report_, error));
     if (!isPersonThere_ || request_.yes) return refuse(notPermittedLine(report_, *command));

@@ -2,6 +2,7 @@
 
 #include "app/app_delegate.h"
 #include "methods/method_catalogue.h"
+#include "platform/linux/administrator.h"
 #include "platform/terminal/json_text.h"
 #include "platform/terminal/text.h"
 
@@ -32,9 +33,17 @@ std::string causeOfFailure(const WipeReport& report, bool isMounted) {
   return "the filler files on " + volume + " are gone: removed by another program, or the volume was taken away";
 }
 
-std::string writesFailed(const WipeReport& report) {
-  const std::string count = std::to_string(report.faults) + (report.faults == 1 ? " write" : " writes");
-  return count + " failed on " + volumeText(report) + ", the first one: " + printable(report.firstFault.text());
+/// Faults are of many kinds: files that could not be made, opened, written, flushed or removed.
+std::string stepsFailed(const WipeReport& report) {
+  const std::string count = std::to_string(report.faults) + (report.faults == 1 ? " step" : " steps");
+  return count + " of the run failed on " + volumeText(report) +
+         ", the first one: " + printable(report.firstFault.text());
+}
+
+std::string notPermitted(const std::string& volume) {
+  const std::string mayNot = " may not create files in the root folder of " + volume;
+  if (!isAdministrator()) return "You" + mayNot + "; run the program as root, for example with sudo";
+  return "Not even the administrator" + mayNot + ": its folder is locked, or its file system is another user's";
 }
 
 }  // namespace
@@ -101,7 +110,7 @@ std::string failureLine(const WipeReport& report, bool isMounted) {
   if (report.exitCode != ExitCode::failed) return "";
   const std::string meaning = "; deleted data may remain readable there";
   if (report.outcome == RunOutcome::finished && report.firstFault.code != ErrorCode::readOnly) {
-    return writesFailed(report) + meaning;
+    return stepsFailed(report) + meaning;
   }
   return "Failed: " + causeOfFailure(report, isMounted) + meaning;
 }
@@ -112,8 +121,7 @@ std::string refusalLine(const WipeReport& report, const Error& error) {
     case ErrorCode::readOnly:
       return "Read only drive, please select other drives";
     case ErrorCode::notPermitted:
-      return "You may not create files in the root folder of " + volume +
-             "; run the program as root, for example with " + "sudo";
+      return notPermitted(volume);
     case ErrorCode::busy:
       return "Another run is wiping " + volume + "; wait until it has ended";
     case ErrorCode::notOurs:

@@ -34,11 +34,6 @@ std::string notPermittedLine(const WipeReport& report, const Command& command) {
   return "You " + mayNotWrite(report) + "; to wipe it as administrator: " + shellText(command);
 }
 
-std::string notPermittedToAnyoneLine(const WipeReport& report) {
-  return "Not even the administrator " + mayNotWrite(report) +
-         ": its folder is locked, or its file system is another user's";
-}
-
 Alert administratorQuestion(const WipeReport& report, const Command& command) {
   return {"You " + mayNotWrite(report) + ".", "Wipe it as administrator, with: " + shellText(command), "YES", "NO"};
 }

@@ -23,9 +23,6 @@ std::optional<Command> commandForAdministrator(const WipeRequest& request, const
 /// Why the user may not wipe the volume, and the command that does it.
 std::string notPermittedLine(const WipeReport& report, const Command& command);
 
-/// Why not even the administrator may.
-std::string notPermittedToAnyoneLine(const WipeReport& report);
-
 /// The same as a question whether to start the command now.
 Alert administratorQuestion(const WipeReport& report, const Command& command);
 

@@ -87,7 +87,7 @@ void WipeCommandSession::end() {
 }
 
 void WipeCommandSession::showCaption(Control control) {
-  // A cancel may take long and serves no timer meanwhile, so its caption is shown at once.
+  // A cancel may take long, and its caption must not wait for the next look.
   const bool isWaiting = isCancelling_ && run_->outcome == RunOutcome::cancelled && !isCancelShown_;
   if (control != Control::labelPhase || !isWaiting) return;
   isCancelShown_ = true;

@@ -5,6 +5,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "platform/linux/administrator.h"
+#include "tests/platform/suite/child_process.h"
+
 namespace calvero {
 namespace {
 
@@ -60,7 +63,8 @@ TEST(FailureLine, IsEmptyWithoutAFlaw) {
 
 TEST(FailureLine, CountsTheFailedWritesOfAFinishedRun) {
   EXPECT_EQ(failureLine(reportOf(RunOutcome::finished, 7), kMounted),
-            "7 writes failed on stick (/media/stick), the first one: pwrite /media/stick/.temp0: Input/output error; "
+            "7 steps of the run failed on stick (/media/stick), the first one: pwrite /media/stick/.temp0: "
+            "Input/output error; "
             "deleted data may remain readable there");
 }
 
@@ -82,12 +86,20 @@ TEST(FailureLine, TellsAVolumeThatIsGoneFromFilesThatAreGone) {
 TEST(RefusalLine, SaysWhatToDo) {
   const WipeReport report = reportOf(RunOutcome::none);
   EXPECT_EQ(refusalLine(report, {ErrorCode::readOnly, "", "", ""}), "Read only drive, please select other drives");
-  EXPECT_THAT(refusalLine(report, {ErrorCode::notPermitted, "", "", ""}), HasSubstr("sudo"));
   EXPECT_THAT(refusalLine(report, {ErrorCode::busy, "", "", ""}), StartsWith("Another run is wiping stick"));
   EXPECT_THAT(refusalLine(report, {ErrorCode::notOurs, "openat", "/media/stick/.x", "a symbolic link"}),
               AllOf(HasSubstr("/media/stick/.x"), HasSubstr("a symbolic link"), HasSubstr("move it away")));
   EXPECT_THAT(refusalLine(report, {ErrorCode::notFound, "", "", ""}), HasSubstr("not mounted"));
   EXPECT_THAT(refusalLine(report, {ErrorCode::gone, "openat", "/a\nb", "no"}), Not(HasSubstr("\n")));
+}
+
+TEST(RefusalLine, SendsAUserToTheAdministratorAndNotTheAdministrator) {
+  const auto isSentTo = [](const char* word) {
+    const std::string line = refusalLine(reportOf(RunOutcome::none), {ErrorCode::notPermitted, "", "", ""});
+    return line.find("stick (/media/stick)") != std::string::npos && line.find(word) != std::string::npos;
+  };
+  EXPECT_TRUE(testing::succeedsAsPlainUser([&] { return isSentTo("as root, for example with sudo"); }));
+  EXPECT_TRUE(!isAdministrator() || isSentTo("Not even the administrator may"));
 }
 
 TEST(ReportJson, HoldsTheFiguresOfTheRun) {

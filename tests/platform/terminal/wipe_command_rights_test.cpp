@@ -46,11 +46,6 @@ TEST(NotPermitted, NamesTheVolumeAndTheCommand) {
   EXPECT_FALSE(question.alternateButton.empty());
 }
 
-TEST(NotPermitted, DoesNotSendTheAdministratorToTheAdministrator) {
-  EXPECT_THAT(notPermittedToAnyoneLine(refusedReport()), HasSubstr("stick (/media/my stick)"));
-  EXPECT_THAT(notPermittedToAnyoneLine(refusedReport()), Not(HasSubstr("sudo")));
-}
-
 class ChooseListedVolume : public ::testing::Test {
  protected:
   [[nodiscard]] std::optional<std::size_t> chosen(const std::string& given) const {
