@@ -2,9 +2,11 @@
 
 #include <malloc.h>
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <iterator>
+#include <thread>
 
 namespace calvero::testing {
 
@@ -12,11 +14,24 @@ inline std::ptrdiff_t entriesOf(const char* folder) {
   return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
 }
 
-/// What this process holds at the moment.
+/// Waits until no thread has begun or ended for a while: one that has done its work may be on its way out yet.
+inline std::ptrdiff_t threadsAtRest() {
+  constexpr int kLooks = 50;
+  std::ptrdiff_t threads = 0;
+  for (int look = 0; look < kLooks; ++look) {
+    const auto now = entriesOf("/proc/self/task");
+    if (now != threads) look = 0;
+    threads = now;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  }
+  return threads;
+}
+
+/// What this process holds once its threads are at rest.
 struct Holdings {
+  std::ptrdiff_t threads = threadsAtRest();  // first, since a thread that ends gives back the rest
   std::size_t bytes = ::mallinfo2().uordblks;
   std::ptrdiff_t descriptors = entriesOf("/proc/self/fd");
-  std::ptrdiff_t threads = entriesOf("/proc/self/task");
 };
 
 }  // namespace calvero::testing

@@ -6,6 +6,7 @@ from case import NOTICED_WITHIN_SECONDS, SLOWEST
 from pulled_case import CLEAN_UP, PHASE_1, PHASE_2, PulledTest
 from remote_case import FAILED, RemoteTest
 from testkit import program
+from testkit.fuse_volume import FuseVolume
 
 # A cancel waits eight seconds for a sign of life before it tells.
 CANCELLED_WITHIN_SECONDS = 30
@@ -17,6 +18,8 @@ class PulledVolume(PulledTest, RemoteTest):
         command, waitUntilStopped = self.stopping([program.windowProgramPath()], target, phase)
         order = self.makeOrder(target, method)
         order.start(command)
+        if isinstance(target, FuseVolume):  # else a program that it keeps from ending would not end with the test
+            self.addCleanup(target.die)
         return order, waitUntilStopped
 
     def checkTold(self, phase, method="1"):
