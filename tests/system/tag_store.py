@@ -16,11 +16,11 @@ class Tags:
     def read(self):
         if not os.path.exists(self.path):
             return {}
-        with contextlib.closing(sqlite3.connect(self.path, timeout=10)) as connection:
+        with contextlib.closing(sqlite3.connect(self.path, timeout=30)) as connection:
             return dict(connection.execute("SELECT tag, value FROM tags"))
 
     def set(self, **values):
-        with contextlib.closing(sqlite3.connect(self.path, timeout=10)) as connection, connection:
+        with contextlib.closing(sqlite3.connect(self.path, timeout=30)) as connection, connection:
             connection.execute("PRAGMA application_id = 1330467923")
             connection.execute("PRAGMA user_version = 1")
             connection.execute("CREATE TABLE IF NOT EXISTS tags (tag TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL)"

@@ -47,7 +47,7 @@ class ManyRunsInOneWindow : public WizardFixture {
     usedFiles = &files_;
     usedVolumes = &volume_;
     usedLookup = &volume_;
-    longestUse = std::chrono::seconds(250);
+    longestUse = std::chrono::seconds(550);
   }
   void TearDown() override { mounts_.close(); }
 
@@ -71,7 +71,7 @@ class ManyRunsInOneWindow : public WizardFixture {
     looking.start(std::chrono::milliseconds(1));
     QTimer limit;
     QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
-    limit.start(std::chrono::seconds(20));
+    limit.start(std::chrono::seconds(60));
     loop.exec();
     return condition();
   }
@@ -99,7 +99,7 @@ class ManyRunsInOneWindow : public WizardFixture {
 
   void waitForFirstPage() {
     ASSERT_TRUE(comesTrueSoon([this] { return page() == 0 && app->shell().wipingProcessOn == 0; }));
-    ASSERT_TRUE(ports.threads.waitForAll(std::chrono::seconds(20)));
+    ASSERT_TRUE(ports.threads.waitForAll(std::chrono::seconds(60)));
     ASSERT_TRUE(comesTrueSoon([this] { return !completed().isVisible(); }));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // as when a program is back in its main loop
     journal.clear();                                                      // it remembers every call

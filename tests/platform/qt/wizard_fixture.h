@@ -41,7 +41,7 @@ class WizardFixture : public ::testing::Test {
     // What a test left running would use what is destroyed now.
     release();
     if (app) app->currentRun()->terminateThread = 1;
-    EXPECT_TRUE(ports.threads.waitForAll(std::chrono::seconds(20)));
+    EXPECT_TRUE(ports.threads.waitForAll(std::chrono::seconds(60)));
   }
 
   void mountVolume(const std::string& name, std::uint64_t freeBytes = 300'000) {
@@ -77,7 +77,7 @@ class WizardFixture : public ::testing::Test {
   }
 
   /// Serves events until `condition` holds.
-  [[nodiscard]] bool comesTrue(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 20'000); }
+  [[nodiscard]] bool comesTrue(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 60'000); }
 
   /// Presses a button of the next alert, notes what the alert said, and goes on to do `next`.
   void answerNextAlert(const char* button = "alertDefaultButton", const std::function<void()>& next = {}) {
@@ -131,7 +131,7 @@ class WizardFixture : public ::testing::Test {
   FakeRandom random;
   FakeSystemNotifications systemNotifications{journal};
   HurriedClock clock;
-  std::chrono::seconds longestUse{30};
+  std::chrono::seconds longestUse{100};
   Clock* usedClock = &clock;
   Files* usedFiles = &files;
   MountedVolumes* usedVolumes = &volumes;
