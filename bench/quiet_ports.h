@@ -102,6 +102,7 @@ class QuietPorts final : public Alerts,
   void stopTimer(TimerId /*timer*/) override {}
   bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds /*limit*/) override { return done(); }
   void terminate() override {}
+  bool isEnding() const override { return false; }
 
   [[nodiscard]] std::string localised(const std::string& key) const override { return key; }
 
