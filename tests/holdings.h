@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <malloc.h>
 
 #include <chrono>
@@ -33,5 +34,22 @@ struct Holdings {
   std::size_t bytes = ::mallinfo2().uordblks;
   std::ptrdiff_t descriptors = entriesOf("/proc/self/fd");
 };
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool kIsSanitized = true;
+#else
+constexpr bool kIsSanitized = false;
+#endif
+
+/// Wipes with their cancels of a real volume. The few under a sanitizer take as long as all do otherwise.
+constexpr int kPairs = kIsSanitized ? 20 : 250;
+
+inline void expectNothingGained(const Holdings& before, const Holdings& after, std::size_t mostBytesForAPair) {
+  EXPECT_EQ(after.descriptors, before.descriptors);
+  EXPECT_EQ(after.threads, before.threads);
+  ::testing::Test::RecordProperty("bytesForAPair", static_cast<int>((after.bytes - before.bytes) / kPairs));
+  if (kIsSanitized) return;  // the sanitizers keep what was freed
+  EXPECT_LT(after.bytes, before.bytes + kPairs * mostBytesForAPair);
+}
 
 }  // namespace calvero::testing

@@ -57,11 +57,7 @@ class PulledVolume(PulledTest, WindowTest):
                 target.hang()
                 self.goOn(window.process)
                 self.cancelWhileItHangs(window)
-                window.closeWindow()
-                program.waitUntil(lambda: program.hasLeft(window.process), "the program leaving without its threads",
-                                  seconds=15)
-                target.die()
-                self.assertEqual(window.waitForEnd(10), (0, "", ""))
+                self.closeWhileItHangs(window, target)
 
     def checkTold(self, window, target):
         self.assertEqual(self.outcome(window, NOTICED_WITHIN_SECONDS), f"The drive {target.name} was removed or has "

@@ -103,6 +103,14 @@ class WindowTest(SystemTest):
         self.answer(window, "Information", "Wiping process aborted", timeout=30)
         self.assertOnFirstPage(window)
 
+    def closeWhileItHangs(self, window, target):
+        """The program leaves without the threads that the volume keeps, and ends once it dies."""
+        window.closeWindow()
+        program.waitUntil(lambda: program.hasLeft(window.process), "the program leaving without its threads",
+                          seconds=15)
+        target.die()
+        self.assertEqual(window.waitForEnd(10), (0, "", ""))
+
     def quit(self, window):
         window.closeWindow()
         self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
