@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/dbus/wake_up.h"
+#include "platform/threads/stop_signals_blocked.h"
 
 namespace calvero {
 
@@ -102,6 +103,7 @@ class BusListener::Shared {
 BusListener::BusListener(FailureReport onFailure) : onFailure_(std::move(onFailure)) {
   try {
     shared_ = std::make_shared<Shared>(onFailure_);
+    const StopSignalsBlocked blocked;
     thread_ = std::thread(&BusListener::listen, shared_);
   } catch (const std::exception& failure) {
     shared_ = nullptr;

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/dbus/notification_signal.h"
+#include "platform/threads/stop_signals_blocked.h"
 #include "ports/system_log.h"
 
 namespace calvero {
@@ -41,11 +42,16 @@ void sendAndTell(const Notification& notification, std::promise<void> outcome) {
   }
 }
 
+std::thread startSender(Notification notification, std::promise<void> outcome) {
+  const StopSignalsBlocked blocked;
+  return std::thread(sendAndTell, std::move(notification), std::move(outcome));
+}
+
 /// On a thread of its own, since the library cannot be interrupted while it waits for the bus. Throws what went wrong.
 void sendPatiently(Notification notification) {
   std::promise<void> promise;
   auto outcome = promise.get_future();
-  std::thread sender(sendAndTell, std::move(notification), std::move(promise));
+  std::thread sender = startSender(std::move(notification), std::move(promise));
   if (outcome.wait_for(kLongestPosting) != std::future_status::ready) {
     sender.detach();
     throw std::runtime_error("the session bus does not answer");

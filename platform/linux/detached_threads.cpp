@@ -9,6 +9,8 @@
 #include <mutex>
 #include <thread>
 
+#include "platform/threads/stop_signals_blocked.h"
+
 namespace calvero {
 
 namespace {
@@ -66,6 +68,7 @@ DetachedThreads::DetachedThreads() : DetachedThreads(reportToSystemLog) {}
 DetachedThreads::DetachedThreads(FailureReport onFailure) : state_(std::make_shared<State>(std::move(onFailure))) {}
 
 void DetachedThreads::detach(const std::string& name, std::function<void()> body) {
+  const StopSignalsBlocked blocked;
   std::thread([presence = Presence(state_), name, body = std::move(body)]() mutable {
     presence.run(name, body);
     body = nullptr;  // what it owns goes before the thread counts as ended

@@ -9,6 +9,8 @@
 #include <thread>
 #include <utility>
 
+#include "platform/threads/stop_signals_blocked.h"
+
 namespace calvero {
 
 /// How long a volume may take to answer before it counts as hanging.
@@ -27,6 +29,7 @@ class PatientQuestion {
     auto promise = std::make_shared<std::promise<Answer>>();
     answer_ = promise->get_future();
     try {
+      const StopSignalsBlocked blocked;
       std::thread([promise, question = std::move(question)] { promise->set_value(question()); }).detach();
     } catch (const std::system_error&) {
       // No thread is to be had: the question stays unanswered.

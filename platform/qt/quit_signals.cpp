@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "platform/qt/event_dispatch.h"
+#include "platform/threads/stop_signals_blocked.h"
 
 namespace calvero {
 namespace {
@@ -36,7 +37,7 @@ QuitSignals::QuitSignals(const EventDispatch& dispatch, std::function<void()> ac
   isSent = false;
   notifier_ = std::make_unique<QSocketNotifier>(pipe_[0], QSocketNotifier::Read);
   QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { serveOne(); });
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) takeOver(signal);
+  for (const int signal : kStopSignals) takeOver(signal);
 }
 
 QuitSignals::~QuitSignals() {

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/threads/stop_signals_blocked.h"
 #include "ports/system_log.h"
 
 namespace calvero {
@@ -85,6 +86,7 @@ SqliteTagStore::Ticket SqliteTagStore::enqueue(const std::string& tag, const std
 void SqliteTagStore::startWriter() {
   if (writer_.joinable()) return;
   try {
+    const StopSignalsBlocked blocked;
     writer_ = std::jthread([this](const std::stop_token& stop) { write(stop); });
   } catch (const std::system_error& failure) {
     log_.line(std::string("tags cannot be stored yet: ") + failure.what());  // the next one that is set tries again

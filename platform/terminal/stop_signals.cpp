@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/terminal/asio_event_loop.h"
+#include "platform/threads/stop_signals_blocked.h"
 
 namespace calvero {
 namespace {
@@ -17,7 +18,7 @@ bool isIgnored(int signal) {
 
 StopSignals::StopSignals(AsioEventLoop& loop, std::function<void()> action)
     : signals_(loop.context()), action_(std::move(action)) {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+  for (const int signal : kStopSignals) {
     if (!isIgnored(signal)) signals_.add(signal);
   }
   wait();

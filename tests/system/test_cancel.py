@@ -1,7 +1,7 @@
 import json
 import signal
 
-from case import SystemTest, fillerNames, isWriting
+from case import SLOWEST, SystemTest, fillerNames, isWriting
 from testkit import program
 from testkit.marks import KeptFiles
 from testkit.volume import MEBIBYTE
@@ -44,6 +44,17 @@ class Cancel(SystemTest):
                 atSignal = len(fillerNames(target))
                 self.checkCancelled(target, process, freeBefore, kept)
                 self.assertLess(atSignal, freeBefore // 128_000_000, "the layout was still under way")
+
+    def testOnlyTheThreadOfTheEventLoopTakesASignal(self):
+        target = self.makeVolume("ext4", 200)
+        process = self.startWipe(target, method=SLOWEST)
+        program.waitUntil(lambda: isWriting(target, 0), "the first filler file being written")
+        threads = program.otherThreads(process)
+        process.send_signal(signal.SIGINT)
+        self.finish(process)
+        self.assertIn("calvero-wipe", dict(threads))
+        for name, blocked in threads:
+            self.assertLessEqual(set(SIGNALS), blocked, name)
 
     def testASecondSignalDoesNotSkipTheCleanUp(self):
         target = self.makeVolume("ext4", 320)

@@ -40,6 +40,10 @@ class CheckLayering(unittest.TestCase):
     def testTheLinuxAdaptersMayNotIncludeTheCore(self):
         self.assertForbidden(platform__linux__files='#include "app/app_delegate.h"')
 
+    def testTheAdaptersOfOneKindMayNotIncludeAnother(self):
+        self.assertForbidden(platform__dbus__listener='#include "platform/linux/descriptor.h"')
+        self.assertForbidden(platform__threads__signals='#include "platform/linux/descriptor.h"')
+
     def testTheTerminalAdaptersMayNotIncludeTheCore(self):
         self.assertForbidden(platform__terminal__alerts='#include "app/app_delegate.h"')
 
@@ -48,6 +52,7 @@ class CheckLayering(unittest.TestCase):
         self.assertAllowed(wipe__writer='#include "ports/files.h"')
         self.assertAllowed(platform__linux__files="#include <unistd.h>")
         self.assertAllowed(platform__linux__files='#include "ports/files.h"')
+        self.assertAllowed(platform__linux__files='#include "platform/threads/stop_signals_blocked.h"')
         self.assertAllowed(platform__terminal__main='#include "app/app_delegate.h"')
         self.assertAllowed(platform__terminal__wipe_command='#include "app/app_delegate.h"')
 

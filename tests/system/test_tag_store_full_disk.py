@@ -15,14 +15,7 @@ ENDS_WITHIN_SECONDS = 30
 
 
 def hasThread(process, name):
-    for task in os.listdir(f"/proc/{process.pid}/task"):
-        try:
-            with open(f"/proc/{process.pid}/task/{task}/comm") as file:
-                if file.read().strip() == name:
-                    return True
-        except (FileNotFoundError, ProcessLookupError):  # it has just ended
-            pass
-    return False
+    return name in (other for other, _ in program.otherThreads(process))
 
 
 class FullDisk(RemoteTest):

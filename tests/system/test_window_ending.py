@@ -27,6 +27,9 @@ class Signals(WindowTest):
         freeBefore = target.freeBytes()
         window = self.startWindow()
         self.startWriting(window, target)
+        for name, blocked in program.otherThreads(window.process):
+            if name.startswith("calvero-"):  # the toolkit has some of its own
+                self.assertLessEqual(set(SIGNALS), blocked, name)
         for number in SIGNALS:
             window.process.send_signal(number)
         self.assertEqual(window.waitForEnd(10), (0, "", ""))

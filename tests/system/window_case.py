@@ -151,12 +151,5 @@ LASTING_THREADS = ("calvero-dbus", "calvero-tags")
 
 def runThreads(window):
     """Names of the threads of a run."""
-    names = []
-    folder = f"/proc/{window.process.pid}/task"
-    for task in os.listdir(folder):
-        try:
-            with open(f"{folder}/{task}/comm") as file:
-                names.append(file.read().strip())
-        except (FileNotFoundError, ProcessLookupError):  # it ended before the file was opened, or before it was read
-            continue
+    names = [name for name, _ in program.otherThreads(window.process)]
     return [name for name in names if name.startswith("calvero-") and name not in LASTING_THREADS]

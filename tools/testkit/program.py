@@ -64,6 +64,21 @@ def hasLeft(process):
         return file.read().rpartition(")")[2].split()[0] == "Z"
 
 
+def otherThreads(process):
+    """The threads of a process but its first: the name of each, and the signals that it leaves to others."""
+    threads = []
+    for task in os.listdir(f"/proc/{process.pid}/task"):
+        try:
+            with open(f"/proc/{process.pid}/task/{task}/status") as file:
+                status = dict(line.split(":", 1) for line in file)
+        except (FileNotFoundError, ProcessLookupError):  # it ended before the file was opened, or before it was read
+            continue
+        blocked = int(status["SigBlk"], base=16)
+        if int(task) != process.pid:
+            threads.append((status["Name"].strip(), {s for s in signal.Signals if blocked >> (s - 1) & 1}))
+    return threads
+
+
 def waitUntil(condition, what, seconds=60):
     """Polls `condition` and returns its first true value; fails loudly when it never comes."""
     deadline = time.monotonic() + seconds
