@@ -102,7 +102,7 @@ class HostileText(SystemTest):
             started = TerminalProgram([program.programPath(), *arguments], columns=250)
             self.addCleanup(started.close)
             started.readUntil(name)
-            started.readUntil(QUESTION if arguments else "Mount path")
+            started.readUntil(QUESTION if arguments else "Volume (1 to ")
             for answer in answers:
                 started.answer(answer)
             self.assertEqual(started.waitForEnd(), program.EXIT_CANCELLED, started.text)

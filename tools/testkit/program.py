@@ -58,10 +58,13 @@ def startedAs(plainUser):
 
 def hasLeft(process):
     """Whether it has ended, but for threads that the kernel holds until a medium answers."""
-    if process.poll() is not None:
-        return True
+    return process.poll() is not None or stateOf(process) == "Z"
+
+
+def stateOf(process):
+    """R, S, D, Z or another of the kernel's letters for the first thread of a process that was not waited for yet."""
     with open(f"/proc/{process.pid}/stat") as file:
-        return file.read().rpartition(")")[2].split()[0] == "Z"
+        return file.read().rpartition(")")[2].split()[0]
 
 
 def otherThreads(process):
@@ -130,6 +133,11 @@ class TerminalProgram:
                 raise AssertionError(f"{words!r} never came; printed: {self.text!r}")
 
     def answer(self, line):
+        """Once the program waits: ThreadSanitizer's own runtime loses a signal that comes as a first wait begins."""
+        waitUntil(lambda: stateOf(self.process) != "R", "the program waiting for an answer")
+        self.answerAtOnce(line)
+
+    def answerAtOnce(self, line):
         self._answered = len(self.text)
         os.write(self._controller, line.encode() + b"\n")
 
