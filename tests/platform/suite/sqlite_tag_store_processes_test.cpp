@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include <iostream>
 #include <memory>
 #include <thread>
 
@@ -12,6 +13,7 @@ namespace {
 
 using ::testing::Each;
 using ::testing::Not;
+using ::testing::PrintToString;
 using ::testing::StartsWith;
 
 class SeveralProcesses : public StoreFolder {
@@ -44,7 +46,12 @@ class SeveralProcesses : public StoreFolder {
     RecordingLog log;
     SqliteTagStore store(path, log);
     store.setValue(tag, "set");
-    return store.waitUntilStored(kLong) && store.value(tag) == "set" && log.lines().empty();
+    const bool isStored = store.waitUntilStored(kLong);
+    const std::string value = store.value(tag).value_or("nothing");
+    if (isStored && value == "set" && log.lines().empty()) return true;
+    std::cerr << tag << (isStored ? " stored" : " not stored") << ", read as \"" << value
+              << "\"; logged: " << PrintToString(log.lines()) << '\n';
+    return false;
   }
 };
 
