@@ -11,8 +11,8 @@ namespace calvero {
 inline constexpr std::array kStopSignals{SIGINT, SIGTERM, SIGHUP};
 
 /// Threads that are started while it lives never take one of kStopSignals. The kernel gives a signal to any thread that
-/// would take it: only if no other thread does, the event loop's has it before whatever was typed behind it. Any
-/// thread.
+/// would take it: only if no other thread does, the event loop's has it before whatever was typed behind it. To be used
+/// on any thread.
 class StopSignalsBlocked {
  public:
   StopSignalsBlocked() {
