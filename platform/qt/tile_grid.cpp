@@ -137,6 +137,10 @@ void TileGrid::focusCurrent() {
 void TileGrid::select(std::size_t index) {
   setCurrent(index);
   if (onTilesSelected) onTilesSelected({index});
+  // Another one where this was refused: that has the keyboard back.
+  const auto selected =
+      std::find_if(tiles_.begin(), tiles_.end(), [](const ItemView* tile) { return tile->selected(); });
+  if (selected != tiles_.end()) setCurrent(static_cast<std::size_t>(selected - tiles_.begin()));
 }
 
 void TileGrid::mousePressEvent(QMouseEvent* event) {

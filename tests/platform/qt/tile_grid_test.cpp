@@ -4,7 +4,9 @@
 #include <QScrollArea>
 #include <QToolTip>
 
+#include "app/notification_centre.h"
 #include "tests/platform/qt/window_fixture.h"
+#include "volumes/my_collection_view.h"
 
 namespace calvero::testing {
 namespace {
@@ -44,6 +46,26 @@ TEST_F(TileGridTest, TellsWhichTileWasClicked) {
   EXPECT_THAT(told, ElementsAre(Selection{3}));
   EXPECT_FALSE(grid().tile(3)->selected());
   EXPECT_EQ(focused(), "volume 3");
+}
+
+TEST_F(TileGridTest, GivesTheKeyboardBackToTheSelectedTileWhenAnotherIsRefused) {
+  NotificationCentre notifications;
+  std::size_t selected = 0;
+  MyCollectionView picker(controls, notifications, selected);
+  window.onTilesSelected = [&](const Selection& indexes) { picker.setSelectionIndexes(indexes); };
+  showTiles(103);
+  for (std::size_t refused : {101U, 102U}) {
+    QTest::mouseClick(grid().tile(100), Qt::LeftButton);
+    EXPECT_EQ(focused(), "volume 100");
+    QTest::mouseClick(grid().tile(refused), Qt::LeftButton);
+    EXPECT_EQ(focused(), "volume 100");
+    type(Qt::Key_End);
+    EXPECT_EQ(focused(), "volume 100");
+    EXPECT_TRUE(grid().tile(100)->selected());
+    EXPECT_FALSE(grid().tile(refused)->selected());
+  }
+  type(Qt::Key_Left);
+  EXPECT_EQ(focused(), "volume 99") << "it goes on from there";
 }
 
 TEST_F(TileGridTest, TellsOfAClickBesideTheTiles) {
