@@ -4,7 +4,8 @@
 
 namespace calvero {
 
-/// Time that only goes forward: setting the system's clock must not change an elapsed time.
+/// Time that only goes forward, and does so while the machine is suspended: setting the system's clock must not change
+/// an elapsed time.
 class Clock {
  public:
   using Duration = std::chrono::duration<double>;  ///< seconds

@@ -1,11 +1,14 @@
 #include "platform/linux/steady_clock.h"
 
+#include <ctime>
 #include <thread>
 
 namespace calvero {
 
 Clock::Duration SteadyClock::now() {
-  return std::chrono::steady_clock::now().time_since_epoch();
+  std::timespec now = {};
+  ::clock_gettime(CLOCK_BOOTTIME, &now);
+  return std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
 }
 
 void SteadyClock::sleep(Duration duration) {
