@@ -114,6 +114,8 @@ class AppDelegate {
 
   // --- Volumes: volumes/enumeration.cpp, volumes/selected_volume.cpp, volumes/my_collection_view.cpp ---
 
+  /// Appends the mounted volumes to the table, and listens to the table's selection once more. In remote mode it ends
+  /// the application when there is none.
   void loadVolumes();
   /// A new empty list of filler files; no volume array is touched.
   void allocateAllArrays();
@@ -204,6 +206,8 @@ class AppDelegate {
   void readRemoteOrder();
   /// Lists the ordered volume again until its size is known. False when the order has ended without that.
   bool learnsSize();
+  void listVolumes();
+  void endOrderWithoutVolume();
   void appendVolume(VolumeTable& table, const MountedVolume& volume);
   void selectMethod(std::int32_t number);
   void resetMethodChoice();

@@ -52,7 +52,8 @@ bool AppDelegate::learnsSize() {
     if (order_.cloudTerm != 0) return false;  // cancelled meanwhile
     ports_.controls.clearVolumes();
     volumes_ = std::make_shared<VolumeTable>();
-    loadVolumes();
+    listVolumes();
+    endOrderWithoutVolume();
     if (volumes_->volumeNameArray.empty()) return false;  // told, as a volume that is not mounted
     if (selection().capacityBytes() != 0) return true;
   }

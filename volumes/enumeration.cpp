@@ -21,6 +21,13 @@ bool isOffered(const std::string& formatDescription) {
 }  // namespace
 
 void AppDelegate::loadVolumes() {
+  listVolumes();
+  // Added at every call: after reloads the controller is told once for each.
+  notifications_.addObserver(kTableSelectionDidChange, [this] { tableViewSelectionDidChange(); });
+  endOrderWithoutVolume();
+}
+
+void AppDelegate::listVolumes() {
   auto table = std::make_shared<VolumeTable>(*volumes_);
   table->urls = ports_.mountedVolumes.mountedVolumes();
   const bool remote = order_.cloudInitiation != 0;
@@ -30,13 +37,12 @@ void AppDelegate::loadVolumes() {
     appendVolume(*table, volume);
   }
   volumes_ = std::move(table);
+}
 
-  // Added at every call: after reloads the controller is told once for each.
-  notifications_.addObserver(kTableSelectionDidChange, [this] { tableViewSelectionDidChange(); });
-  if (remote && volumes_->volumeNameArray.empty()) {
-    authentication_.SetValueForTag(kTagStatus, kStatusFailed);
-    ports_.eventLoop.terminate();
-  }
+void AppDelegate::endOrderWithoutVolume() {
+  if (order_.cloudInitiation == 0 || !volumes_->volumeNameArray.empty()) return;
+  authentication_.SetValueForTag(kTagStatus, kStatusFailed);
+  ports_.eventLoop.terminate();
 }
 
 void AppDelegate::appendVolume(VolumeTable& table, const MountedVolume& volume) {

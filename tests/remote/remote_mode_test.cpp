@@ -118,6 +118,16 @@ TEST_F(RemoteModeWithoutASize, ListsAgainUntilItIsKnownAndRuns) {
   EXPECT_EQ(world.tags.peek("cvrStatus"), "2");
 }
 
+TEST_F(RemoteModeWithoutASize, ListensToTheTableOnceHoweverOftenItIsListedAgain) {
+  int listings = 0;
+  world.loop.whenLimitPasses([&] {
+    if (++listings == 3) list(40'000);
+  });
+  world.launch().notifications().post(kTableSelectionDidChange);
+  EXPECT_EQ(listings, 3);
+  EXPECT_EQ(world.journal.only({"setText tfDriveName"}).size(), 1U);
+}
+
 TEST_F(RemoteModeWithoutASize, EndsAsALostVolumeWhenItNeverIsKnown) {
   world.launch();
   EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
