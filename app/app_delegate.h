@@ -218,6 +218,7 @@ class AppDelegate {
   /// From now on no earlier run may touch the screen or end the application.
   void outliveEarlierRuns();
   void startRunThreads();
+  void startDataThread();
   void runWorker(WipeRun& run);
   /// Ends a run that the program itself cannot go on with.
   void giveUp(WipeRun& run, const std::exception& error);

@@ -56,8 +56,8 @@ class FillerDirectory {
   /// opened or followed; a folder of that name is left and reported (`exists`).
   virtual Error createEmptyFile(const std::string& path) = 0;
 
-  /// Whether a directory entry of that name exists: none does once the volume was taken away from its path. Links are
-  /// not followed.
+  /// Whether a directory entry of that name exists: none does once the volume was taken away from its path, or the
+  /// directory from its own. Links are not followed.
   virtual bool exists(const std::string& path) = 0;
 
   /// Reads the entry's attributes, as is done before each file is written; nothing looks at them. Links are not
@@ -83,8 +83,9 @@ class FillerDirectory {
   /// Grows while `releaseSpace` and `remove` get on: what tells a large clean-up from a volume that does not answer.
   virtual std::uint64_t cleanUpSteps() const = 0;
 
-  /// Removes the directory with everything in it. Never follows a link, never leaves the volume. A second call, or
-  /// one while another thread is in it, does no harm. `notFound` when the directory is already gone.
+  /// Removes the directory with everything in it, also where it was given another name in the same folder; moved
+  /// elsewhere it is emptied, and `notOurs`. Never follows a link, never leaves the volume. A second call, or one while
+  /// another thread is in it, does no harm. `notFound` when the directory is already gone.
   virtual Error remove() = 0;
 };
 

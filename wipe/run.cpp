@@ -127,13 +127,22 @@ void AppDelegate::startPhaseOne(WipeRun& run) {
   if (run.applicationEnding != 0) return;
 
   run.screen.apply([](Controls& controls) { controls.setProgressDeterminate(); });
-  ports_.threads.detach("calvero-data", [this] { setElapsedData(); });
+  startDataThread();
   for (int percent = 0; percent <= 100; ++percent) {
     run.screen.apply([percent](Controls& controls) { controls.setProgress(percent); });
   }
   ports_.clock.sleep(seconds(1));
   run.screen.apply([](Controls& controls) { controls.setProgress(0); });
   startPhaseTwo(run);
+}
+
+/// It has no work, so that a run does as well without it.
+void AppDelegate::startDataThread() {
+  try {
+    ports_.threads.detach("calvero-data", [this] { setElapsedData(); });
+  } catch (const std::system_error& error) {
+    ports_.log.line(std::string("run: ") + error.what());
+  }
 }
 
 void AppDelegate::startPhaseTwo(WipeRun& run) {

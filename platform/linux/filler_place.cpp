@@ -106,10 +106,25 @@ Error FillerPlace::removeDirectory(const OpenFolder& directory) const {
     if (!left || left->links == 0) return posixError("unlinkat", path_, ENOENT);
   }
   if (!found || !found->isSameFile(directory.identity)) {
+    if (removeFromWhereItIs(directory)) return {};
     return {ErrorCode::notOurs, "unlinkat", path_, "the folder was moved away"};
   }
   if (retryInterrupted([&] { return ::unlinkat(root_.get(), name_.c_str(), AT_REMOVEDIR); }) == 0) return {};
   return posixError("unlinkat", path_, errno);
+}
+
+bool FillerPlace::removeFromWhereItIs(const OpenFolder& directory) const {
+  Error error;
+  const OpenFolder parent = lookUp(directory.get(), "..", path_, error);
+  if (!parent.isOpen() || !parent.identity.isSameFile(root_.identity)) return false;
+  FolderReader reader(root_.get());
+  while (const dirent* entry = reader.next()) {
+    if (entry->d_type != DT_DIR && entry->d_type != DT_UNKNOWN) continue;
+    const auto found = identityAt(root_.get(), entry->d_name);
+    if (!found || !found->isSameFile(directory.identity)) continue;
+    return retryInterrupted([&] { return ::unlinkat(root_.get(), entry->d_name, AT_REMOVEDIR); }) == 0;
+  }
+  return false;
 }
 
 }  // namespace calvero

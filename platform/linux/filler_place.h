@@ -33,12 +33,14 @@ class FillerPlace {
   OpenFolder openDirectory(Error& error) const;
   /// Whether the name still leads to that directory.
   [[nodiscard]] bool leadsTo(const OpenFolder& directory) const;
-  /// Removes the name of the directory, which must be empty, unless it leads elsewhere by now.
+  /// Removes the directory, which must be empty, by its name, or by the one that it was given since in the volume's
+  /// root. `notOurs` when it was moved elsewhere.
   [[nodiscard]] Error removeDirectory(const OpenFolder& directory) const;
 
  private:
   FillerPlace(OpenFolder root, std::string volumePath, std::string path);
   [[nodiscard]] const char* whyNotOurs(const FileIdentity& found) const;
+  [[nodiscard]] bool removeFromWhereItIs(const OpenFolder& directory) const;
 
   OpenFolder root_;
   std::string volumePath_;

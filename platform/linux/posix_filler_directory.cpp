@@ -70,7 +70,7 @@ Error PosixFillerDirectory::createEmptyFile(const std::string& path) {
 }
 
 bool PosixFillerDirectory::exists(const std::string& path) {
-  return watch_->isThere() && identityAt(directory_.get(), lastPart(path)).has_value();
+  return watch_->isThere() && place_.leadsTo(directory_) && identityAt(directory_.get(), lastPart(path)).has_value();
 }
 
 Error PosixFillerDirectory::readAttributes(const std::string& path) {

@@ -34,6 +34,8 @@ class FilesWorld {
   /// `path` becomes a second name of the file `existing` in the same directory.
   virtual void plantSecondName(const std::string& existing, const std::string& path) = 0;
 
+  /// The directory gets another name in the same folder.
+  virtual void rename(const std::string& directory, const std::string& path) = 0;
   /// Nothing is found under the volume's path any more, though what was open before stays so.
   virtual void takeVolumeAway() = 0;
 
@@ -269,6 +271,30 @@ TEST_P(FilesContract, AVolumeThatWasTakenAwayHasNoFilesAndTakesNoWrites) {
   const WriteResult result = file->pwrite(kData.data(), kData.size(), 0);
   EXPECT_EQ(result.bytes, -1);
   EXPECT_EQ(result.error.code, ErrorCode::gone);
+}
+
+TEST_P(FilesContract, ARenamedDirectoryHasNoFilesAnyMore) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr);
+  write(*directory, ".temp0");
+  world_->rename(directory_, volume_ + "/renamed");
+  EXPECT_FALSE(directory->exists(pathOf(".temp0")));
+  world_->plantDirectory(directory_);
+  world_->plantFile(pathOf(".temp0"), 0);
+  EXPECT_FALSE(directory->exists(pathOf(".temp0"))) << "another's";
+}
+
+TEST_P(FilesContract, ARenamedDirectoryIsRemovedUnderItsNewNameAndNothingElseIs) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr);
+  write(*directory, ".temp0");
+  world_->rename(directory_, volume_ + "/renamed");
+  world_->plantDirectory(directory_);
+  EXPECT_FALSE(directory->remove().failed());
+  EXPECT_FALSE(world_->directoryExists(volume_ + "/renamed"));
+  EXPECT_TRUE(world_->directoryExists(directory_));
+  EXPECT_EQ(directory->remove().code, ErrorCode::notFound);
+  EXPECT_TRUE(world_->directoryExists(directory_));
 }
 
 TEST_P(FilesContract, RemovesAFilesNameOnce) {

@@ -64,6 +64,13 @@ void FakeFiles::removeFromOutside(const std::string& directoryPath, const std::s
   if (directories_.at(directoryPath)->entries.erase(name) == 0) throw std::out_of_range("no entry " + name);
 }
 
+void FakeFiles::renameFromOutside(const std::string& directoryPath, const std::string& newPath) {
+  const std::scoped_lock lock(mutex_);
+  auto directory = std::move(directories_.at(directoryPath));
+  directories_.erase(directoryPath);
+  directories_[newPath] = std::move(directory);
+}
+
 bool FakeFiles::directoryExists(const std::string& path) const {
   const std::scoped_lock lock(mutex_);
   return directories_.contains(path);
@@ -136,11 +143,13 @@ Error FakeFiles::removeFillerDirectory(const std::string& volumePath, const std:
   return fakeError(code, "rmdir", directoryPath);
 }
 
-bool FakeFiles::forget(const FakeDirectory& directory) {
+bool FakeFiles::isAtItsPath(const FakeDirectory& directory) const {
   const auto found = directories_.find(directory.path);
-  if (found == directories_.end() || found->second.get() != &directory) return false;
-  directories_.erase(found);
-  return true;
+  return found != directories_.end() && found->second.get() == &directory;
+}
+
+bool FakeFiles::forget(const FakeDirectory& directory) {
+  return std::erase_if(directories_, [&](const auto& entry) { return entry.second.get() == &directory; }) != 0;
 }
 
 }  // namespace calvero::testing

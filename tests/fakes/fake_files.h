@@ -79,6 +79,8 @@ class FakeFiles : public Files {
   /// A second name for the same file.
   void addHardLink(const std::string& directoryPath, const std::string& existing, const std::string& name);
   void removeFromOutside(const std::string& directoryPath, const std::string& name);
+  /// The directory is given another name on its volume.
+  void renameFromOutside(const std::string& directoryPath, const std::string& newPath);
   [[nodiscard]] bool directoryExists(const std::string& path) const;
   /// The names in a directory, sorted.
   [[nodiscard]] Steps names(const std::string& directoryPath) const;
@@ -100,7 +102,9 @@ class FakeFiles : public Files {
 
   /// The obstacle to making or taking over the directory, if there is one.
   ErrorCode obstacle(const std::string& volumePath, const std::string& directoryPath) const;
-  /// Takes the directory's name away with everything in it, if it still leads to `directory`.
+  /// Whether the directory's own name still leads to it.
+  [[nodiscard]] bool isAtItsPath(const FakeDirectory& directory) const;
+  /// Takes the directory's name away, its own or a later one, with everything in it. Whether it had any.
   bool forget(const FakeDirectory& directory);
 
   Journal& journal_;

@@ -29,6 +29,9 @@ class FakeFilesWorld : public FilesWorld {
     files_.addHardLink(parentOf(path), nameOf(existing), nameOf(path));
   }
 
+  void rename(const std::string& directory, const std::string& path) override {
+    files_.renameFromOutside(directory, path);
+  }
   void takeVolumeAway() override { files_.volume(kVolume).mounted = false; }
 
   bool directoryExists(const std::string& path) override { return files_.directoryExists(path); }

@@ -54,7 +54,8 @@ bool FakeFillerDirectory::exists(const std::string& path) {
   files_.script.arrive(FileCall::exists);
   files_.journal_.add("exists " + lastPart(path));
   const std::scoped_lock lock(files_.mutex_);
-  return directory_->volume->mounted && directory_->entries.contains(lastPart(path));
+  const bool isReached = directory_->volume->mounted && files_.isAtItsPath(*directory_);
+  return isReached && directory_->entries.contains(lastPart(path));
 }
 
 Error FakeFillerDirectory::readAttributes(const std::string& path) {

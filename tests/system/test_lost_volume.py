@@ -1,6 +1,7 @@
 """A medium that goes away under the run: it ends truthfully, never with a success."""
 
 import json
+import os
 import shutil
 import subprocess
 import time
@@ -61,4 +62,15 @@ class LostVolume(SystemTest):
         process = self.startedOn(target, method="3")  # it is told behind the file that is being written
         shutil.rmtree(target.fillerDirectory())
         self.checkFailed(process)
+        self.assertFreeAgain(target, freeBefore)
+
+    def testAFillerDirectoryRenamedFromOutsideIsReportedAndNothingIsLeftUnderItsNewName(self):
+        target = self.makeVolume("ext4", 160)
+        freeBefore = target.freeBytes()
+        process = self.startedOn(target, method="1")
+        renamed = os.path.join(target.path, "renamed")
+        os.rename(target.fillerDirectory(), renamed)
+        self.assertEqual(self.checkFailed(process)["outcome"], "failed")
+        self.assertFalse(os.path.lexists(renamed))
+        self.assertNothingLeft(target)
         self.assertFreeAgain(target, freeBefore)

@@ -283,15 +283,26 @@ TEST_F(Phases, EndTheApplicationWhenACancelArrivedDuringTheFirst) {
   EXPECT_EQ(world.files.script.count(FileCall::open), 0U);
 }
 
-TEST_F(Phases, EndTheApplicationAndLeaveNothingWhenTheSystemHasNoThreadToSpare) {
+TEST_F(Phases, GoOnWithoutTheThreadThatHasNoWorkWhenTheSystemHasNoneToSpare) {
   const RunPtr run = startWithoutPasses();
   world.threads.refuse("calvero-data");
   world.runWorker();
-  EXPECT_EQ(run->outcome, RunOutcome::failed);
-  EXPECT_EQ(run->workerEnded, 1);
+  EXPECT_EQ(run->outcome, RunOutcome::finished);
+  EXPECT_EQ(run->faults(), 0U);
   EXPECT_EQ(world.journal.only({"log run:"}).size(), 1U);
+  EXPECT_EQ(world.journal.only({"removeItem"}).size(), 3U);
+  EXPECT_THAT(world.journal.only({"alert", "terminate"}), IsEmpty());
+}
+
+TEST_F(Phases, TakeARenamedDirectoryForALostVolumeAndLeaveNothingUnderItsNewName) {
+  const RunPtr run = startWithoutPasses();
+  const std::string renamed = "/media/DATA/renamed";
+  world.files.script.before(FileCall::exists, 2, [&] { world.files.renameFromOutside(World::kDirectory, renamed); });
+  world.runWorker();
+  EXPECT_EQ(run->volumeEjected, 1);
+  EXPECT_EQ(run->outcome, RunOutcome::failed);
   EXPECT_THAT(world.journal.only({"alert", "terminate"}), ElementsAre(kUnknownErrorAlert, "terminate"));
-  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+  EXPECT_FALSE(world.files.directoryExists(renamed));
 }
 
 TEST_F(Phases, MarkAFinishedRunAsOverAndLeaveTheProcessOn) {

@@ -28,6 +28,7 @@ class PosixWorld : public FilesWorld {
     fs::create_hard_link(existing, path);
   }
 
+  void rename(const std::string& directory, const std::string& path) override { fs::rename(directory, path); }
   void takeVolumeAway() override { fs::rename(volume_, folder_.path() + "/elsewhere"); }
 
   bool directoryExists(const std::string& path) override { return fs::is_directory(path); }

@@ -107,15 +107,40 @@ TEST_F(FillerDirectoryRemoval, OfADirectoryThatIsGoneFindsNothing) {
   EXPECT_EQ(run_->remove().code, ErrorCode::notFound);
 }
 
-TEST_F(FillerDirectoryRemoval, EmptiesARenamedDirectoryAndLeavesWhatTookItsName) {
+TEST_F(FillerDirectoryRemoval, FindsARenamedDirectoryAmongOthersAndLeavesThem) {
   ASSERT_FALSE(run_->createEmptyFile(pathOf(".temp0")).failed());
+  for (const char* name : {"/a", "/z"}) fs::create_directory(volume_ + name);
+  fs::create_directory_symlink("renamed", volume_ + "/link");
   fs::rename(directory_, volume_ + "/renamed");
+  EXPECT_FALSE(run_->remove().failed());
+  EXPECT_EQ(run_->createEmptyFile(pathOf(".temp1")).code, ErrorCode::closed);
+  EXPECT_FALSE(fs::exists(volume_ + "/renamed"));
+  for (const char* name : {"/a", "/z"}) EXPECT_TRUE(fs::is_directory(volume_ + name)) << name;
+  EXPECT_TRUE(fs::is_symlink(volume_ + "/link"));
+  EXPECT_TRUE(preciousIsUntouched());
+}
+
+TEST_F(FillerDirectoryRemoval, EmptiesADirectoryThatWasMovedElsewhereAndLeavesWhatTookItsName) {
+  ASSERT_FALSE(run_->createEmptyFile(pathOf(".temp0")).failed());
+  fs::create_directory(volume_ + "/folder");
+  fs::rename(directory_, volume_ + "/folder/moved");
   EXPECT_EQ(run_->remove().code, ErrorCode::notOurs);
   EXPECT_EQ(run_->createEmptyFile(pathOf(".temp1")).code, ErrorCode::closed);
-  EXPECT_TRUE(fs::is_empty(volume_ + "/renamed"));
+  EXPECT_TRUE(fs::is_empty(volume_ + "/folder/moved"));
   fs::create_directory(directory_);
   EXPECT_EQ(run_->remove().code, ErrorCode::notOurs);
   EXPECT_TRUE(fs::exists(directory_));
+}
+
+TEST_F(FillerDirectoryRemoval, LeavesARenamedDirectoryThatIsNotEmptyBecauseOfAMountInIt) {
+  fs::create_directory(volume_ + "/folder");
+  writeFile(volume_ + "/folder/inside", kPreciousText);
+  fs::create_directory(pathOf("mounted"));
+  fs::rename(directory_, volume_ + "/renamed");
+  const ScopedMount bind(volume_ + "/folder", volume_ + "/renamed/mounted", "", MS_BIND);
+  if (!bind.done()) GTEST_SKIP() << "needs the right to mount";
+  EXPECT_TRUE(run_->remove().failed());
+  EXPECT_EQ(readFile(volume_ + "/folder/inside"), kPreciousText);
 }
 
 TEST_F(FillerDirectoryRemoval, DoesNotTouchTheNextRunsDirectory) {
