@@ -45,7 +45,7 @@ std::string AppDelegate::getElapsedData(std::uint64_t finishedFiles) {
 }
 
 void AppDelegate::setElapsedTime(WipeRun& run) {
-  const Clock::Duration start = ports_.clock.now();
+  const Clock::Duration start = run.startedAt.value_or(ports_.clock.now());
   // The flags stay down where the worker ends the application itself.
   while (run.abortErasing == 0 && run.terminateThread == 0 && run.applicationEnding == 0) {
     run.elapsed_time = getElapsedTimeForInterval((ports_.clock.now() - start).count());

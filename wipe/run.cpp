@@ -57,6 +57,7 @@ void AppDelegate::proceed() {
 
 void AppDelegate::startRunThreads() {
   const RunPtr run = run_;
+  run->startedAt = ports_.clock.now();
   try {
     ports_.threads.detach("calvero-wipe", [this, run] { runWorker(*run); });
     ports_.threads.detach("calvero-clock", [this, run] { setElapsedTime(*run); });

@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "ports/clock.h"
 #include "ports/error.h"
 #include "volumes/volume_table.h"
 #include "wipe/run_screen.h"
@@ -51,6 +53,8 @@ struct WipeRun {
   std::vector<std::string> filePathsArray;  ///< the filler file set, in creation order
   VolumeSelection volume;                   ///< the volume as it was listed when the run started; unset before
   std::string elapsed_time;                 ///< the clock thread's last text; nothing reads it
+  /// Set before the run's threads start, and never again: whoever tells the run's time counts from here.
+  std::optional<Clock::Duration> startedAt;
 
   RunCounters counters;
   std::atomic<RunOutcome> outcome{RunOutcome::none};

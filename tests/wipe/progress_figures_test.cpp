@@ -107,6 +107,24 @@ TEST_F(ElapsedClock, ShowsTheTimeSinceTheRunBeganAndStopsWithIt) {
   EXPECT_EQ(world.app().currentRun()->elapsed_time, "01:02:05");
 }
 
+TEST_F(ElapsedClock, CountsFromTheRunsStartHoweverLateItsOwnThreadBegins) {
+  world.start();
+  world.clock.tick(std::chrono::seconds(3));
+  world.clock.whenSlept([this](Clock::Duration) { world.app().setAbortErasing(true); });
+  world.runElapsedClock();
+  EXPECT_EQ(world.controls.text(Control::tfElapsedTime), "00:00:03");
+}
+
+TEST_F(ElapsedClock, StartsAnewWithTheNextRun) {
+  runFor(std::chrono::seconds(61));
+  looks = 0;
+  world.app().next();
+  world.proceed();
+  world.clock.whenSlept([this](Clock::Duration) { world.app().setAbortErasing(true); });
+  world.runElapsedClock();
+  EXPECT_EQ(world.controls.text(Control::tfElapsedTime), "00:00:00");
+}
+
 TEST_F(ElapsedClock, ShowsThreeDigitsFrom100HoursOn) {
   runFor(std::chrono::hours(100));
   EXPECT_EQ(world.controls.text(Control::tfElapsedTime), "100:00:00");

@@ -103,10 +103,10 @@ def stopping(outputPath, program, paths, point):
     return _tracing(outputPath, program, paths, "-D", *_at(point, "STOP"))
 
 
-def delaying(program, paths, microseconds):
+def delaying(program, paths, microseconds, calls=_LOOKS):
     """A command that runs the program and halts it for a moment behind each call on those paths that looks for, makes
-    or removes something; it ends as the program does."""
-    return _tracing(os.devnull, program, paths, "-e", f"inject={_LOOKS}:delay_exit={microseconds}", "-e", "signal=none")
+    or removes something, or that is one of `calls`; it ends as the program does."""
+    return _tracing(os.devnull, program, paths, "-e", f"inject={calls}:delay_exit={microseconds}", "-e", "signal=none")
 
 
 def isStopped(outputPath):

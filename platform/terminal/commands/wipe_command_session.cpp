@@ -20,7 +20,6 @@ WipeCommandSession::WipeCommandSession(CommandPorts& ports, AppDelegate& app, co
 
 void WipeCommandSession::run() {
   freeBytes_ = app_.freeSpaceOnDisk();
-  startedAt_ = ports_.clock.now();
   ports_.onNotice = [this](const std::string& text) {
     view_.makeRoom();
     printError(printable(text));
@@ -41,6 +40,7 @@ void WipeCommandSession::run() {
     giveUp(failure.what());
   }
   if (run_) seconds_ = sinceStart().count();
+  hasEnded_ = true;
   if (run_ && run_->outcome == RunOutcome::finished) view_.updateAtOnce(figures());
   view_.makeRoom();
 }
@@ -52,7 +52,6 @@ void WipeCommandSession::start() {
     return;
   }
   run_ = app_.currentRun();
-  startedAt_ = ports_.clock.now();
   ports_.alerts.runStarted([this] { view_.makeRoom(); });
   ports_.loop.startTimer(kLookInterval, TimerKind::repeating, [this] { look(); });
 }
@@ -95,7 +94,7 @@ void WipeCommandSession::showCaption(Control control) {
 }
 
 std::chrono::duration<double> WipeCommandSession::sinceStart() {
-  return ports_.clock.now() - startedAt_;
+  return ports_.clock.now() - run_->startedAt.value_or(ports_.clock.now());
 }
 
 ProgressFigures WipeCommandSession::figures() {
@@ -105,7 +104,9 @@ ProgressFigures WipeCommandSession::figures() {
   ProgressFigures shown;
   shown.percent = isFinished ? kEnded : percentOf(covered, freeBytes_);
   shown.phase = ports_.controls.text(Control::labelPhase);
-  shown.elapsed = ports_.controls.text(Control::tfElapsedTime);
+  // The clock's last look was a moment before the end.
+  shown.elapsed =
+      hasEnded_ ? AppDelegate::getElapsedTimeForInterval(seconds_) : ports_.controls.text(Control::tfElapsedTime);
   if (isCancelling_) return shown;  // the caption must not give way to figures that no longer move
 
   shown.erased = AppDelegate::getFormattedStringForSize(covered);

@@ -44,8 +44,8 @@ class WipeCommandSession {
   StopSignals signals_;
   RunPtr run_;
   std::uint64_t freeBytes_ = 0;
-  Clock::Duration startedAt_{};
   double seconds_ = 0;
+  bool hasEnded_ = false;
   bool isCancelling_ = false;
   bool isCancelShown_ = false;
 };
