@@ -1,5 +1,6 @@
+#include <array>
+#include <charconv>
 #include <chrono>
-#include <cinttypes>
 #include <cstdio>
 
 #include "app/app_delegate.h"
@@ -16,9 +17,11 @@ constexpr std::chrono::milliseconds kClockPause{250};
 std::string sizeText(std::uint64_t bytes, std::uint64_t divisor, const char* unit) {
   // Single precision is part of the format: it decides the last digit of large figures.
   const float quotient = static_cast<float>(bytes) / static_cast<float>(divisor);
-  char text[64];
-  std::snprintf(text, sizeof text, "%.2f %s", static_cast<double>(quotient), unit);
-  return text;
+  std::array<char, 32> digits{};
+  // Not printf, whose decimal point is the locale's.
+  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<double>(quotient),
+                                     std::chars_format::fixed, 2);
+  return std::string(digits.data(), written.ptr) + ' ' + unit;
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 import configparser
 import os
+import subprocess
+import tempfile
 
 from tag_store import Tags
 from window_case import WindowTest
@@ -50,6 +52,23 @@ class Language(WindowTest):
 
     def testALanguageWithoutTextsIsEnglish(self):
         self.checkLanguage(self.homeWithTags(LANG="tlh"), "tlh", "Next", "Reload Drives")
+
+    def testSizesHaveADecimalPointWhereTheSystemsLocaleHasAComma(self):
+        locales = tempfile.mkdtemp(prefix="calvero-locales-")
+        made = subprocess.run(["localedef", "-i", "de_DE", "-f", "UTF-8", os.path.join(locales, "de_DE.UTF-8")],
+                              capture_output=True, text=True)
+        if made.returncode != 0:
+            self.skipTest(f"localedef makes no locale with a decimal comma: {made.stderr}")
+        env = {"LC_ALL": "de_DE.UTF-8", "LOCPATH": locales}
+        shown = subprocess.run(["locale", "decimal_point"], env=os.environ | env, capture_output=True, text=True)
+        self.assertEqual(shown.stdout, ",\n")
+        target = self.makeVolume("ext4", 16)
+        window = self.startWindow(env=env)
+        self.choose(window, target)
+        description = self.description(window)
+        for caption in ("Drive Space :", "Free Space :"):
+            self.assertRegex(description[caption], r"^\d+\.\d\d [KMG]B$")
+        self.quit(window)
 
     def testTheQuestionAndTheRefusalAreInTheLanguageOfTheSuite(self):
         target = self.makeVolume("ext4", 16)

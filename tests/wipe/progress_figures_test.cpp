@@ -2,9 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <clocale>
+#include <cstdlib>
 #include <utility>
 
 #include "tests/fakes/world.h"
+#include "tests/scoped_folder.h"
 #include "wipe/progress_percent.h"
 
 namespace calvero {
@@ -49,6 +52,49 @@ TEST(SizeText, IsComputedInSinglePrecision) {
   EXPECT_EQ(size(351'015'000), "351.02 MB");
   EXPECT_EQ(size(6'889'534'728'652), "6889.54 GB");
   EXPECT_EQ(size(8'897'265'179'025), "8897.26 GB");
+}
+
+/// As a desktop's language may set it: decimal commas, and points between the thousands.
+class CommaLocale {
+ public:
+  CommaLocale() : folder_(scoped_.path()) {
+    const std::string make = "localedef -i de_DE -f UTF-8 " + folder_ + "/de_DE.UTF-8 2>/dev/null";
+    if (std::system(make.c_str()) != 0 || ::setenv("LOCPATH", folder_.c_str(), 1) != 0) return;
+    isSet_ = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
+  }
+  CommaLocale(const CommaLocale&) = delete;
+  CommaLocale& operator=(const CommaLocale&) = delete;
+  ~CommaLocale() {
+    std::setlocale(LC_ALL, "C");
+    ::unsetenv("LOCPATH");
+  }
+
+  [[nodiscard]] bool isSet() const { return isSet_; }
+
+ private:
+  const testing::ScopedFolder scoped_;
+  const std::string folder_;
+  bool isSet_ = false;
+};
+
+TEST(SizeText, HasADecimalPointInEveryLocale) {
+  const CommaLocale locale;
+  if (!locale.isSet()) GTEST_SKIP() << "needs localedef and the sources of de_DE, as in Debian's package locales";
+  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+  EXPECT_EQ(size(0), "0.00 KB");
+  EXPECT_EQ(size(999'999), "1000.00 KB");
+  EXPECT_EQ(size(1'234'567), "1.23 MB");
+  EXPECT_EQ(size(270'550'000'000), "270.55 GB");
+  EXPECT_EQ(size(18'446'744'073'709'551'615U), "18446743552.00 GB");
+  EXPECT_EQ(AppDelegate::getElapsedTimeForInterval(360'000.5), "100:00:00");
+}
+
+// 0.125 and 0.375 are exact in binary: printf, and so the figure, takes the even neighbour.
+TEST(SizeText, RoundsATieToTheEvenDigit) {
+  EXPECT_EQ(size(125), "0.12 KB");
+  EXPECT_EQ(size(375), "0.38 KB");
+  EXPECT_EQ(size(625), "0.62 KB");
+  EXPECT_EQ(size(2'625'000), "2.62 MB");
 }
 
 TEST(ErasedAmount, IsTheFullSizeOfEveryFinishedFile) {
