@@ -184,7 +184,7 @@ class AppDelegate {
   [[nodiscard]] const std::string& CDriveName() const { return order_.CDriveName; }
   /// The run that is under way, or the idle one that the next start will take.
   [[nodiscard]] RunPtr currentRun() const { return run_; }
-  /// Whether a cancel waits for its clean-up.
+  /// Whether a cancel waits for its clean-up, or for its message to be read.
   [[nodiscard]] bool cancelWaits() const { return cancelWait_ != CancelWait::none; }
   [[nodiscard]] const VolumeTable& volumes() const { return *volumes_; }
   [[nodiscard]] const MethodChoice& methodChoice() const { return choice_; }
@@ -196,8 +196,9 @@ class AppDelegate {
 
  private:
   enum class PopUpCloses { byItself, withTheApplication };
-  /// What a cancel waits for, and what follows once the filler files are removed.
-  enum class CancelWait : std::uint8_t { none, waiting, endsTheApplication };
+  /// What a cancel waits for, and what follows once the filler files are removed. `tellingTheAbort`: the abort of a
+  /// remote run is on the screen, and the application ends once it has been read.
+  enum class CancelWait : std::uint8_t { none, waiting, endsTheApplication, tellingTheAbort };
 
   void showPopUp(const Colour& colour, const std::string& text, PopUpCloses closes);
   void schedulePopUpCheck();

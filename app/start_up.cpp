@@ -98,7 +98,7 @@ void AppDelegate::endApplication(WipeRun& run) {
   // A program that ended under a cancel would take its removal of the filler files along, half done.
   CancelWait wait = CancelWait::waiting;
   const bool isLeftToTheCancel = cancelWait_.compare_exchange_strong(wait, CancelWait::endsTheApplication);
-  if (!isLeftToTheCancel && wait == CancelWait::none) ports_.eventLoop.terminate();
+  if (!isLeftToTheCancel && wait != CancelWait::endsTheApplication) ports_.eventLoop.terminate();
 }
 
 std::string AppDelegate::localised(const std::string& key) const {

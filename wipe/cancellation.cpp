@@ -32,7 +32,8 @@ void AppDelegate::cancelWipe() {
   const bool isFirst = cancelWait_.compare_exchange_strong(idle, CancelWait::waiting);
   // In this order: a worker that sees the flags may note an outcome of its own at once, and one that saw only
   // `terminateThread` would clean up and report as if it had finished.
-  run->end(RunOutcome::cancelled);
+  const bool comesInTime = run->claimStatus(StatusTeller::cancel);
+  if (comesInTime) run->end(RunOutcome::cancelled);
   run->abortErasing = 1;
   run->terminateThread = 1;
   ++shell_.cancelNumber;
@@ -42,7 +43,7 @@ void AppDelegate::cancelWipe() {
   controls.setProgressIndeterminate();
   if (!isFirst) return;  // one is under way already and goes on for both
   removeFilesAside(run);
-  if (run->applicationEnding != 0) return;
+  if (run->applicationEnding != 0 || !comesInTime) return;
   if (order_.cloudInitiation != 0) {
     endCancelledRemoteRun();
   } else if (order_.cloudTerm != 0) {
@@ -97,6 +98,7 @@ void AppDelegate::returnToFirstPageAfterCancel() {
 }
 
 void AppDelegate::endCancelledRemoteRun() {
+  cancelWait_ = CancelWait::tellingTheAbort;  // events may be served meanwhile, and another cancel among them
   popUp(kOrange, "Remote Wiping Process has been aborted.");
   authentication_.SetValueForTag(kTagStatus, kStatusFailed);
   ports_.controls.selectPage(Page::volume);

@@ -94,8 +94,12 @@ void AppDelegate::reportRemoteCompletion(WipeRun& run) {
   logFaults(run);
   popUp(kGreen, withVolumeName(localised("Your admin successfuly completed\n Calvero on:%@"), order_.CDriveName));
   ports_.clock.sleep(kTimeToReadOfTheEnd);
-  authentication_.SetValueForTag(kTagStatus, kStatusFinished);
+  if (!run.claimStatus(StatusTeller::worker)) {
+    run.abortErasing = 1;  // the cancel is about to set it; until then this run would pass for one that goes on
+    return;
+  }
   run.end(RunOutcome::finished);
+  authentication_.SetValueForTag(kTagStatus, kStatusFinished);
   endApplication(run);
 }
 

@@ -15,6 +15,11 @@ void WipeRun::end(RunOutcome how) {
   outcome.compare_exchange_strong(expected, how);
 }
 
+bool WipeRun::claimStatus(StatusTeller teller) {
+  StatusTeller first = StatusTeller::none;
+  return statusTeller.compare_exchange_strong(first, teller) || first == teller;
+}
+
 std::shared_ptr<FillerDirectory> WipeRun::directory() const {
   const std::scoped_lock lock(mutex_);
   return directory_;

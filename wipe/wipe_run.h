@@ -25,6 +25,9 @@ enum class RunOutcome : std::uint8_t {
   cancelled,
 };
 
+/// Who tells an order its status: the worker of a finished run, or a cancel that came before it did.
+enum class StatusTeller : std::uint8_t { none, worker, cancel };
+
 /// Figures that the worker publishes while it writes, for whoever looks. They may lag behind each other by one block.
 struct RunCounters {
   std::atomic<std::uint64_t> bytesCovered{0};  ///< bytes of the volume that received every pass
@@ -58,6 +61,7 @@ struct WipeRun {
 
   RunCounters counters;
   std::atomic<RunOutcome> outcome{RunOutcome::none};
+  std::atomic<StatusTeller> statusTeller{StatusTeller::none};
   std::atomic<std::uint8_t> workerEnded{0};
   std::atomic<std::uint8_t> notKeptTold{0};  ///< a cancel cleans up beside the worker, and one of them tells
   /// The application has been asked to end: no further step of this run is taken.
@@ -69,6 +73,8 @@ struct WipeRun {
   [[nodiscard]] bool stopRequested() const { return abortErasing != 0 || terminateThread != 0; }
   /// Notes the outcome unless one stands already.
   void end(RunOutcome how);
+  /// Whether the status of an ordered run is `teller`'s to tell: the first one to ask has it for good. Any thread.
+  [[nodiscard]] bool claimStatus(StatusTeller teller);
 
   /// The filler directory while the run has one, else null. Any thread.
   [[nodiscard]] std::shared_ptr<FillerDirectory> directory() const;

@@ -232,6 +232,44 @@ TEST_F(RemoteMode, IsCancelledByTheNotificationInOrdinaryModeToo) {
   EXPECT_EQ(world.loop.terminations(), 1);
 }
 
+TEST_F(RemoteMode, CancelledAgainWhileTheAbortIsReadEndsNoLater) {
+  world.order("DATA", "1");
+  const AppDelegate& app = world.launch();
+  world.clock.whenSlept([this](Clock::Duration slept) {
+    const bool isRead = slept == std::chrono::seconds(3);
+    if (isRead && world.app().shell().cancelNumber < 3) world.systemNotifications.send("cancel wipe", "cancel");
+  });
+  world.systemNotifications.send("cancel wipe", "cancel");
+  EXPECT_THAT(world.journal.only({"sleep", "terminate", "setTag", "popUp"}),
+              ElementsAre("popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"",
+                          "setTag cvrStatus \"3\"", "sleep 3", "terminate"));
+  EXPECT_EQ(app.shell().cancelNumber, 2);
+}
+
+TEST_F(RemoteMode, CancelledWhileTheMessageOfAFinishedRunIsReadReportsTheCancelAlone) {
+  world.order("DATA", "7");
+  const AppDelegate& app = world.launch();
+  world.clock.whenSlept([this](Clock::Duration slept) {
+    if (slept == std::chrono::seconds(7)) world.systemNotifications.send("cancel wipe", "cancel");
+  });
+  world.runWorker();
+  EXPECT_THAT(
+      world.journal.only({"popUp", "setTag", "bringToFront"}),
+      ElementsAre("popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"",
+                  "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"", "setTag cvrStatus \"3\""));
+  EXPECT_EQ(world.loop.terminations(), 1);
+  EXPECT_EQ(app.currentRun()->outcome, RunOutcome::cancelled);
+}
+
+TEST_F(RemoteMode, CancelledOnceItsSuccessIsToldLeavesThat) {
+  world.order("DATA", "7");
+  world.launch();
+  world.runWorker();
+  world.systemNotifications.send("cancel wipe", "cancel");
+  EXPECT_THAT(world.journal.only({"setTag"}), ElementsAre("setTag cvrStatus \"2\""));
+  EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::finished);
+}
+
 TEST_F(RemoteMode, IgnoresTheNotificationWithAnotherObjectOrName) {
   const AppDelegate& app = world.start();
   world.systemNotifications.send("cancel wipe", "other");
