@@ -67,7 +67,8 @@ class AppDelegate {
   void windowWillClose();
   void windowWillMiniaturize();
   void windowDidDeminiaturize();
-  /// Pins the completion window onto the main window once the volume was found gone; else returns to the first page.
+  /// Pins the completion window onto the main window once the volume was found gone; else the event loop returns to the
+  /// first page. Any thread: on another than the event loop's, all of it is left to that.
   void positionHUDWindow();
   /// Shows a message in a box of that colour near the corner of the screen. On the event loop thread it closes by
   /// itself; otherwise the caller ends the application. Any thread.
@@ -202,6 +203,7 @@ class AppDelegate {
 
   void showPopUp(const Colour& colour, const std::string& text, PopUpCloses closes);
   void schedulePopUpCheck();
+  void pinCompletionWindow();
   void setVolumePageTexts();
   void setProgressPageAndSideBarTexts();
   void readRemoteOrder();

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/qt/widget_text.h"
 #include "ui_pop_up_window.h"
@@ -48,7 +49,7 @@ QPoint upperLeftFor(const ScreenPoint& origin, const QSize& size, const QRect& s
 }
 
 PopUpWidget::PopUpWidget() : ui_(std::make_unique<Ui::PopUpWidget>()) {
-  setWindowFlags(Qt::ToolTip | Qt::WindowDoesNotAcceptFocus);
+  setWindowFlags(Qt::ToolTip);
   setAttribute(Qt::WA_ShowWithoutActivating);
   ui_->setupUi(this);
   ui_->popUpBox->installEventFilter(this);
@@ -56,6 +57,11 @@ PopUpWidget::PopUpWidget() : ui_(std::make_unique<Ui::PopUpWidget>()) {
 }
 
 PopUpWidget::~PopUpWidget() = default;
+
+void PopUpWidget::activate() {
+  activatesWhenShown_ = !isVisible();
+  if (isVisible()) activateWindow();
+}
 
 void PopUpWidget::setText(const std::string& text) {
   text_ = text;
@@ -109,6 +115,7 @@ void PopUpWidget::bringToFront() {
   if (onUndisplayed) return onUndisplayed(text_);
   show();
   raise();
+  if (std::exchange(activatesWhenShown_, false)) activateWindow();
   QAccessibleEvent event(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
 }

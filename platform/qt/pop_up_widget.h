@@ -21,7 +21,8 @@ Colour readableOn(const Colour& ground);
 /// counted from the lower left of `screen`.
 QPoint upperLeftFor(const ScreenPoint& origin, const QSize& size, const QRect& screen);
 
-/// The message window: a coloured box with round corners that takes no keyboard and has no entry in the task bar.
+/// The message window: a coloured box with round corners that has no entry in the task bar. It becomes the active
+/// window only where it stands for the application.
 class PopUpWidget : public QWidget, public PopUpWindow {
   Q_OBJECT
  public:
@@ -30,6 +31,9 @@ class PopUpWidget : public QWidget, public PopUpWindow {
 
   /// Takes the text instead of a screen that nobody sees; set where there is no display.
   std::function<void(const std::string&)> onUndisplayed;
+
+  /// Makes it the active window, as soon as it is shown.
+  void activate();
 
   void setText(const std::string& text) override;
   void setFillColour(const Colour& colour) override;
@@ -52,6 +56,7 @@ class PopUpWidget : public QWidget, public PopUpWindow {
 
   std::unique_ptr<Ui::PopUpWidget> ui_;
   std::string text_;
+  bool activatesWhenShown_ = false;
   std::vector<TrackingArea> trackingAreas_;
 };
 

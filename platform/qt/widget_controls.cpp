@@ -236,10 +236,18 @@ void WidgetControls::bringToFront(Control window) {
 
 void WidgetControls::orderOut(Control window) {
   hide(window);
+  if (follower_ != nullptr && follower_->parent() == as<QWidget>(window)) letGo(*as<QWidget>(window));
+}
+
+// The next time it is shown it stands on its own again, where the toolkit places a new one.
+void WidgetControls::letGo(QWidget& window) {
+  delete follower_;
+  window.setWindowFlags(followersFlags_);
+  window.setAttribute(Qt::WA_Moved, false);
 }
 
 void WidgetControls::activateApplication() {
-  if (!window_.isVisible()) return;
+  if (!window_.isVisible()) return popUp_.activate();  // all that is seen of a hidden application
   window_.raise();
   window_.activateWindow();
 }
@@ -254,6 +262,7 @@ void WidgetControls::moveToOriginOf(Control child, Control parent) {
 }
 
 void WidgetControls::attachAbove(Control child, Control parent) {
+  if (follower_ == nullptr) followersFlags_ = as<QWidget>(child)->windowFlags();
   delete follower_;
   follower_ = new WindowFollower(*as<QWidget>(child), *as<QWidget>(parent));
 }

@@ -57,6 +57,7 @@ class WidgetControls : public Controls {
  private:
   /// The progress page as a run begins with it.
   void startRunsPage();
+  void letGo(QWidget& window);
   template <typename Kind>
   [[nodiscard]] Kind* as(Control control) const;
 
@@ -64,6 +65,7 @@ class WidgetControls : public Controls {
   PopUpWidget& popUp_;
   std::array<QObject*, kNamedControls.size()> objects_{};
   QPointer<WindowFollower> follower_;
+  Qt::WindowFlags followersFlags_;  // of the window that follows, as it was before
   int percent_ = 0;
 };
 

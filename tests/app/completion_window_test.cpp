@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "tests/fakes/world.h"
 
 namespace calvero {
@@ -34,6 +36,22 @@ TEST_F(CompletionWindow, WithTheVolumeThereReturnsAtOnceAndTheFirstPageFollowsFr
   world.loop.drain();
   EXPECT_EQ(world.controls.page(), 0);
   EXPECT_TRUE(world.controls.shown(Control::buttonNext));
+}
+
+TEST_F(CompletionWindow, AskedForByAnotherThreadIsLeftToTheEventLoop) {
+  world.loop.setPosts(FakeEventLoop::Posts::queued);
+  world.loop.setLoopThread(FakeEventLoop::LoopThread::thisThreadOnly);
+  for (const bool ejected : {false, true}) {
+    std::thread other([this] { world.app().positionHUDWindow(); });
+    world.app().allocateAllArrays();  // another run takes the current one's place meanwhile
+    other.join();
+    EXPECT_THAT(world.journal.all(), ElementsAre("post"));
+    world.app().currentRun()->volumeEjected = ejected ? 1 : 0;
+    world.journal.clear();
+    world.loop.drain();
+    EXPECT_EQ(world.journal.all().front(), ejected ? "moveToOriginOf windowCompleted window" : "selectPage 0");
+    world.journal.clear();
+  }
 }
 
 }  // namespace

@@ -246,6 +246,41 @@ TEST_F(WidgetControlsTest, BringsAnImmovableWindowBackToItsPlace) {
   EXPECT_TRUE(QTest::qWaitFor(isInPlace, kWaitMilliseconds));
 }
 
+TEST_F(WidgetControlsTest, LetsAPinnedWindowGoOnceItIsTakenOffTheScreen) {
+  show();
+  auto* completed = find("windowCompleted");
+  const Qt::WindowFlags flags = completed->windowFlags();
+  for (int run = 0; run < 2; ++run) {
+    for (int pin = 0; pin < 2; ++pin) {
+      controls.moveToOriginOf(Control::windowCompleted, Control::window);
+      controls.attachAbove(Control::windowCompleted, Control::window);
+      controls.makeImmovable(Control::windowCompleted);
+    }
+    controls.bringToFront(Control::windowCompleted);
+    controls.orderOut(Control::windowCompleted);
+  }
+  EXPECT_FALSE(completed->isVisible());
+  controls.bringToFront(Control::windowCompleted);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(completed, kWaitMilliseconds));
+  EXPECT_EQ(completed->windowFlags(), flags);
+  EXPECT_NE(completed->geometry().bottomLeft(), window.geometry().bottomLeft());
+  const QPoint place = completed->pos();
+  window.move(window.pos() + QPoint(70, 30));
+  EXPECT_EQ(completed->pos(), place);
+  completed->move(place + QPoint(50, -50));
+  QTest::qWait(0);
+  EXPECT_EQ(completed->pos(), place + QPoint(50, -50));
+}
+
+TEST_F(WidgetControlsTest, BringsAHiddenApplicationToTheFrontByItsMessage) {
+  controls.orderOut(Control::window);
+  controls.activateApplication();
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_FALSE(popUp.isVisible());
+  popUp.bringToFront();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&popUp, kWaitMilliseconds));
+}
+
 TEST_F(WidgetControlsTest, KeepsTheCloudButtonsLookWhilePressedOnceNothingHighlights) {
   auto* button = find<QAbstractButton>("buttonCloud");
   controls.setAttributedTitle(Control::buttonCloud, {"Cloud & Control", Colour{1.0, 1.0, 1.0, 1.0}, 11.0});
