@@ -29,20 +29,42 @@ class CompletionPlace(WindowTest):
         x, y, _, height = self.placeOf(self.frameOf(number))
         return x, y + height
 
-    def testThePinnedWindowStandsOnTheMainWindowsLowerLeftCornerAndFollowsIt(self):
+    def windowAfterAnEjectedRun(self):
         target = self.makeVolume("ext4", 64)
         window = self.startWindow()
         self.startWriting(window, target, SLOWEST)
         # As the file system itself does on a damaged medium; the run takes the volume for ejected.
         target.remount("abort")
         self.outcome(window, NOTICED_WITHIN_SECONDS)
-        main, completed = (self.idOf(window, window.find(role, "Calvero")) for role in ("frame", "dialog"))
+        return window
+
+    def mainAndCompleted(self, window):
+        return (self.idOf(window, window.find(role, "Calvero")) for role in ("frame", "dialog"))
+
+    def testThePinnedWindowStandsOnTheMainWindowsLowerLeftCornerAndFollowsIt(self):
+        window = self.windowAfterAnEjectedRun()
+        main, completed = self.mainAndCompleted(window)
         self.assertNotEqual(self.placeOf(self.frameOf(main)), self.placeOf(main), "the main window has a frame")
         corner = self.lowerLeftOfFrame(main)
         self.assertPinned(completed, main)
         self.screen.run("xdotool", "windowmove", "--relative", main, "60", "-40")
         program.waitUntil(lambda: self.lowerLeftOfFrame(main) != corner, "the main window in its new place", seconds=10)
         self.assertPinned(completed, main)
+
+    def testAWindowThatWasPinnedStandsByItselfAtTheEndOfTheNextRun(self):
+        window = self.windowAfterAnEjectedRun()
+        self.acknowledge(window)
+        other = self.makeVolume("ext4", 24)
+        window.pressButton("Reload Drives")
+        self.startRun(window, other)
+        self.outcome(window)
+        main, completed = self.mainAndCompleted(window)
+        self.assertNotEqual(self.placeOf(self.frameOf(completed)), self.placeOf(completed), "it has a frame again")
+        corner, place = self.lowerLeftOfFrame(main), self.placeOf(completed)
+        self.assertNotEqual(self.lowerLeftOfFrame(completed), corner)
+        self.screen.run("xdotool", "windowmove", "--relative", main, "60", "-40")
+        program.waitUntil(lambda: self.lowerLeftOfFrame(main) != corner, "the main window in its new place", seconds=10)
+        self.assertEqual(self.placeOf(completed), place)
 
     def assertPinned(self, completed, main):
         program.waitUntil(lambda: self.lowerLeftOfFrame(completed) == self.lowerLeftOfFrame(main),
