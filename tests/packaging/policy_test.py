@@ -41,6 +41,11 @@ class Policy(unittest.TestCase):
                 for text in texts.values():
                     self.assertRegex(text, re.compile(r"^\S.{10,}\S$"))
 
+    def testEveryMessageNamesTheCommandThatIsAllowed(self):
+        for message in self.action.findall("message"):
+            with self.subTest(language=message.get(LANGUAGE)):
+                self.assertEqual(re.findall(r"\$\([^)]*\)", message.text), ["$(command_line)"])
+
 
 if __name__ == "__main__":
     if len(sys.argv) != 3:
