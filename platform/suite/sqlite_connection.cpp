@@ -2,8 +2,11 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <string_view>
 
 #include "platform/suite/private_file.h"
@@ -51,6 +54,24 @@ class Header {
 bool isCutOff(const std::string& path, const Header& header) {
   // A write that was interrupted is completed from its journal.
   return header.pageBytes() == 0 || (isComplete(path) && fileBytes(path) % header.pageBytes() != 0);
+}
+
+/// SQLite opens what it finds beside a store: a pipe would hold it up for ever, a link or another user's journal would
+/// have it write into other files or put foreign tags into the store.
+void checkCompanion(const std::string& store, const char* ending) {
+  struct stat about {};
+  const std::string path = store + ending;
+  if (::lstat(path.c_str(), &about) != 0) {
+    if (errno == ENOENT) return;
+    throw NoTagStore(path + " beside it cannot be looked at");
+  }
+  if (!S_ISREG(about.st_mode)) throw NoTagStore(path + " beside it is not a file; remove it");
+  struct stat owned {};
+  const bool isOfStore = ::stat(store.c_str(), &owned) == 0 && about.st_uid == owned.st_uid;
+  constexpr uid_t kRoot = 0;
+  if (!isOfStore && about.st_uid != ::geteuid() && about.st_uid != kRoot) {
+    throw NoTagStore(path + " beside it is another user's; remove it");
+  }
 }
 
 /// Reads through the connection's own descriptor: closing any other one would drop the locks that this process holds
@@ -105,6 +126,7 @@ bool isComplete(const std::string& path) {
 }
 
 SQLite::Database openConnection(const std::string& path, Access access, std::chrono::milliseconds patience) {
+  for (const char* ending : {"-journal", "-wal", "-shm"}) checkCompanion(path, ending);
   SQLite::Database database = opened(path, access, static_cast<int>(patience.count()));
   ::sqlite3_limit(database.getHandle(), SQLITE_LIMIT_LENGTH, kMaxRowBytes);
   checkHeader(database, path);

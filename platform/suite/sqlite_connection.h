@@ -32,8 +32,8 @@ enum class Access {
 /// Whether the file alone tells everything: nothing waits in a journal beside it.
 bool isComplete(const std::string& path);
 
-/// Opens an existing file whose header is that of a tag store, or that is empty. Nothing else is touched. Throws
-/// NoTagStore or SQLite::Exception.
+/// Opens an existing file whose header is that of a tag store, or that is empty, and beside which stand only plain
+/// files of its user, this one or root. Nothing else is touched. Throws NoTagStore or SQLite::Exception.
 SQLite::Database openConnection(const std::string& path, Access access, std::chrono::milliseconds patience);
 
 enum class Content { none, tags };

@@ -1,9 +1,13 @@
 #include <gmock/gmock.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <map>
 #include <random>
 
+#include "tests/platform/suite/child_process.h"
 #include "tests/platform/suite/store_folder.h"
 
 namespace calvero::testing {
@@ -167,6 +171,62 @@ TEST_F(AStoreThatIsNone, NeverChangesOrBreaksTheProgramWhateverByteIsWrong) {
     }
   }
 }
+
+/// What stands beside a store under a name that SQLite opens by itself.
+class ACompanionThatIsNoFile : public AStoreThatIsNone, public ::testing::WithParamInterface<const char*> {
+ protected:
+  void SetUp() override { makeStore(); }
+  [[nodiscard]] std::string companion() const { return path() + GetParam(); }
+  /// Within a time limit, since a pipe that was opened would be waited for.
+  void expectRefused(const std::string& words) const {
+    constexpr unsigned kLongestSeconds = 20;
+    ChildProcess child([&] {
+      ::alarm(kLongestSeconds);
+      const TagReading reading = readTag(path(), "cvrOnline");
+      const StoreOutcome written = writeTags(path(), {{"cvrStatus", "3"}});
+      const bool isTold = reading.outcome.detail.find(companion() + " beside it is " + words) != std::string::npos;
+      return isTold && reading.outcome.state == StoreState::leftAlone && !reading.value &&
+             written.state == StoreState::leftAlone;
+    });
+    EXPECT_TRUE(child.succeeded()) << words;
+    EXPECT_EQ(::unlink(companion().c_str()), 0) << "it is still there";
+    EXPECT_EQ(tagIn(path(), "cvrOnline"), "1");
+  }
+};
+
+TEST_P(ACompanionThatIsNoFile, IsNotOpenedWhenItIsAPipe) {
+  ASSERT_EQ(::mkfifo(companion().c_str(), S_IRUSR | S_IWUSR), 0);
+  expectRefused("not a file");
+}
+
+TEST_P(ACompanionThatIsNoFile, IsNotOpenedWhenItIsALink) {
+  const std::string file = folder() + "/other";
+  putBytes(file, "somebody's");
+  std::filesystem::create_symlink(file, companion());
+  expectRefused("not a file");
+  EXPECT_EQ(bytesOf(file), "somebody's");
+}
+
+TEST_P(ACompanionThatIsNoFile, IsNotOpenedWhenItIsASocket) {
+  const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  ASSERT_LT(companion().size(), sizeof address.sun_path);
+  companion().copy(address.sun_path, sizeof address.sun_path - 1);
+  ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  expectRefused("not a file");
+  ::close(socket);
+}
+
+TEST_P(ACompanionThatIsNoFile, IsNotOpenedWhenItIsAnotherUsers) {
+  if (::geteuid() != 0) GTEST_SKIP() << "needs the right to give files away";
+  putBytes(companion(), "");
+  ASSERT_EQ(::chown(companion().c_str(), kPlainUser, kPlainUser), 0);
+  expectRefused("another user's");
+}
+
+INSTANTIATE_TEST_SUITE_P(Beside, ACompanionThatIsNoFile, ::testing::Values("-journal", "-wal", "-shm"),
+                         [](const auto& given) { return std::string(given.param).substr(1); });
 
 }  // namespace
 }  // namespace calvero::testing
