@@ -4,12 +4,12 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <cstdlib>
 
 #include "platform/linux/posix_error.h"
 #include "platform/linux/program_search.h"
 #include "platform/linux/volume_names.h"
+#include "platform/threads/signals.h"
 
 namespace calvero {
 namespace {
@@ -71,7 +71,7 @@ std::string becomeProgram(const Command& command) {
   std::vector<char*> arguments;
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
-  for (const int ignoredHere : {SIGPIPE, SIGXFSZ}) std::signal(ignoredHere, SIG_DFL);
+  restoreIgnoredSignals();
   ::execvp(arguments.front(), arguments.data());
   return posixError("execvp", command.front(), errno).detail;
 }

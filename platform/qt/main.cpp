@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -20,6 +19,7 @@
 #include "platform/suite/order_claim.h"
 #include "platform/suite/sqlite_tag_store.h"
 #include "platform/suite/suite_folder.h"
+#include "platform/threads/signals.h"
 
 namespace calvero {
 namespace {
@@ -134,9 +134,7 @@ int run(int argumentCount, char** arguments) {
 }  // namespace calvero
 
 int main(int argumentCount, char** arguments) {
-  // A closed pipe or a limit of file sizes shows in the call that meets it, and must not skip the clean-up.
-  std::signal(SIGPIPE, SIG_IGN);
-  std::signal(SIGXFSZ, SIG_IGN);
+  calvero::ignoreSignals();
   try {
     return calvero::run(argumentCount, arguments);
   } catch (const std::exception& error) {

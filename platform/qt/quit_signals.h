@@ -13,7 +13,7 @@ namespace calvero {
 
 class EventDispatch;
 
-/// From its creation on, SIGINT, SIGTERM and SIGHUP no longer end the process but run `action` on the thread that
+/// From its creation on, the signals of kStopSignals no longer end the process but run `action` on the thread that
 /// created it, each time one arrives. A signal that the process was started to ignore (nohup) stays ignored. One object
 /// at a time; it needs a QCoreApplication.
 class QuitSignals {

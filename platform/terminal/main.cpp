@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <clocale>
-#include <csignal>
 #include <exception>
 
 #include "platform/dbus/post_notification.h"
@@ -11,6 +10,7 @@
 #include "platform/linux/syslog_log.h"
 #include "platform/terminal/commands/command_list.h"
 #include "platform/terminal/commands/command_ports.h"
+#include "platform/threads/signals.h"
 #include "remote/remote_order.h"
 
 namespace calvero {
@@ -141,9 +141,7 @@ ExitCode run(int argumentCount, char** arguments) {
 
 int main(int argumentCount, char** arguments) {
   std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters only
-  // A closed pipe or a limit of file sizes shows in the call that meets it, and must not skip the clean-up.
-  std::signal(SIGPIPE, SIG_IGN);
-  std::signal(SIGXFSZ, SIG_IGN);
+  calvero::ignoreSignals();
   if (calvero::isStartedByPkexec()) calvero::dropEnvironmentOfCaller();
   try {
     return static_cast<int>(calvero::run(argumentCount, arguments));

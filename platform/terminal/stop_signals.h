@@ -7,7 +7,7 @@ namespace calvero {
 
 class AsioEventLoop;
 
-/// From its creation on, SIGINT, SIGTERM and SIGHUP no longer end the process but run `action` on the event loop
+/// From its creation on, the signals of kStopSignals no longer end the process but run `action` on the event loop
 /// thread, each time one arrives. A signal that the process was started to ignore (nohup) stays ignored.
 class StopSignals {
  public:

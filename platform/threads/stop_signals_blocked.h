@@ -3,12 +3,9 @@
 #include <pthread.h>
 #include <signal.h>  // NOLINT(modernize-deprecated-headers): sigset_t is not in <csignal>
 
-#include <array>
+#include "platform/threads/signals.h"
 
 namespace calvero {
-
-/// The signals that ask a program to end: Ctrl-C, the service manager, the end of the terminal.
-inline constexpr std::array kStopSignals{SIGINT, SIGTERM, SIGHUP};
 
 /// Threads that are started while it lives never take one of kStopSignals. The kernel gives a signal to any thread that
 /// would take it: only if no other thread does, the event loop's has it before whatever was typed behind it. To be used

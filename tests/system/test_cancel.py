@@ -7,7 +7,10 @@ from testkit.marks import KeptFiles
 from testkit.volume import MEBIBYTE
 
 TEBIBYTE_IN_MEBIBYTES = 1 << 20
-SIGNALS = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP)
+SIGNALS = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGQUIT)
+# What ends a program that does not care for it, and means nothing to this one.
+MEANINGLESS = (signal.SIGPIPE, signal.SIGXFSZ, signal.SIGXCPU, signal.SIGALRM, signal.SIGUSR1, signal.SIGUSR2,
+               signal.SIGVTALRM, signal.SIGPROF, signal.SIGPOLL, signal.SIGPWR, signal.SIGSTKFLT)
 
 
 class Cancel(SystemTest):
@@ -44,6 +47,17 @@ class Cancel(SystemTest):
                 atSignal = len(fillerNames(target))
                 self.checkCancelled(target, process, freeBefore, kept)
                 self.assertLess(atSignal, freeBefore // 128_000_000, "the layout was still under way")
+
+    def testASignalThatMeansNothingToTheRunDoesNotEndIt(self):
+        target = self.makeVolume("ext4", 200)
+        kept = KeptFiles(target.path)
+        freeBefore = target.freeBytes()
+        process = self.startWipe(target, method=SLOWEST)
+        program.waitUntil(lambda: isWriting(target, 0), "the first filler file being written")
+        for number in MEANINGLESS:
+            process.send_signal(number)
+        process.send_signal(signal.SIGINT)
+        self.checkCancelled(target, process, freeBefore, kept)
 
     def testOnlyTheThreadOfTheEventLoopTakesASignal(self):
         target = self.makeVolume("ext4", 200)

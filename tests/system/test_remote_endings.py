@@ -89,7 +89,7 @@ class LostVolume(RemoteTest):
 class Signals(RemoteTest):
     def testASignalIsACancelAndLeavesNothing(self):
         started = []
-        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP, signal.SIGQUIT):
             target = self.makeVolume("ext4", 256)
             freeBefore = target.freeBytes()
             started.append((number, self.startOrder(target, SLOWEST), target, freeBefore))

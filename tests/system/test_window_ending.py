@@ -6,7 +6,8 @@ import subprocess
 from testkit import program
 from window_case import ENDS_WITHIN_SECONDS, QUESTION, WindowTest
 
-SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
+SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP, signal.SIGQUIT)
+MEANINGLESS = (signal.SIGXCPU, signal.SIGALRM, signal.SIGUSR1, signal.SIGUSR2, signal.SIGVTALRM, signal.SIGPWR)
 
 
 class Signals(WindowTest):
@@ -30,7 +31,7 @@ class Signals(WindowTest):
         for name, blocked in program.otherThreads(window.process):
             if name.startswith("calvero-"):  # the toolkit has some of its own
                 self.assertLessEqual(set(SIGNALS), blocked, name)
-        for number in SIGNALS:
+        for number in MEANINGLESS + SIGNALS:
             window.process.send_signal(number)
         self.assertEqual(window.waitForEnd(10), (0, "", ""))
         self.assertNothingLeft(target)

@@ -13,6 +13,7 @@
 
 #include "platform/linux/program_search.h"
 #include "platform/suite/order_claim.h"
+#include "platform/threads/signals.h"
 
 namespace calvero {
 namespace {
@@ -65,7 +66,7 @@ class DetachedStart {
     throwIfFailed(::posix_spawn_file_actions_init(&files_), "posix_spawn_file_actions_init");
     sigset_t ignoredHere;
     ::sigemptyset(&ignoredHere);
-    for (const int signal : {SIGPIPE, SIGXFSZ}) ::sigaddset(&ignoredHere, signal);
+    for (const int signal : kIgnoredSignals) ::sigaddset(&ignoredHere, signal);
     throwIfFailed(::posix_spawnattr_setsigdefault(&attributes_, &ignoredHere), "posix_spawnattr_setsigdefault");
     throwIfFailed(::posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF),
                   "posix_spawnattr_setflags");

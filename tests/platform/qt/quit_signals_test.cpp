@@ -17,14 +17,15 @@ TEST_F(QuitSignalsTest, RunTheirActionOnTheLoopForEverySignal) {
   int signals = 0;
   const QuitSignals quit(dispatch, [&] {
     EXPECT_TRUE(loop.isEventLoopThread());
-    if (++signals == 3) loop.terminate();
+    if (++signals == 4) loop.terminate();
   });
   runWith([] {
     std::raise(SIGINT);
     std::raise(SIGTERM);
     std::raise(SIGHUP);
+    std::raise(SIGQUIT);
   });
-  EXPECT_EQ(signals, 3);
+  EXPECT_EQ(signals, 4);
 }
 
 TEST_F(QuitSignalsTest, ASignalThatReachesAnotherThreadRunsTheActionOnTheLoop) {

@@ -146,12 +146,11 @@ TEST(StopSignals, RunTheirActionOnTheLoopForEverySignal) {
   int signals = 0;
   const StopSignals stop(loop, [&] {
     EXPECT_TRUE(loop.isEventLoopThread());
-    if (++signals == 2) loop.terminate();
+    if (++signals == 4) loop.terminate();
   });
-  loop.post([] { std::raise(SIGINT); });
-  loop.post([] { std::raise(SIGTERM); });
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) loop.post([signal] { std::raise(signal); });
   loop.run();
-  EXPECT_EQ(signals, 2);
+  EXPECT_EQ(signals, 4);
 }
 
 TEST(StopSignals, LeaveASignalIgnoredThatWasIgnoredBefore) {

@@ -5,15 +5,19 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <sstream>
 #include <system_error>
 #include <thread>
 
 #include "platform/terminal/commands/window_program.h"
+#include "platform/threads/signals.h"
 #include "tests/platform/terminal/order_testing.h"
 #include "tests/scoped_folder.h"
 
@@ -104,6 +108,20 @@ TEST_F(WindowProgramTest, HasASessionAndStreamsOfItsOwn) {
   EXPECT_EQ(session, id);
   for (const std::string& stream : {input, output, errors}) EXPECT_EQ(stream, "/dev/null");
   EXPECT_EQ(other, "closed");
+}
+
+TEST_F(WindowProgramTest, FindsNoSignalIgnoredThatThisProgramIgnores) {
+  std::map<int, void (*)(int)> before;
+  for (const int signal : kIgnoredSignals) before[signal] = std::signal(signal, SIG_IGN);
+  const auto program = startDetached(makeProgram("a", "grep SigIgn /proc/$$/status > \"$0.seen\""), kNoClaim);
+  waitForEnd(*program);
+  for (const auto& [signal, handler] : before) std::signal(signal, handler);
+  std::istringstream seen(wordsIn(in("a.seen")));
+  std::string name;
+  std::uint64_t ignored = 0;
+  seen >> name >> std::hex >> ignored;
+  ASSERT_EQ(name, "SigIgn:");
+  for (const int signal : kIgnoredSignals) EXPECT_EQ(ignored >> (signal - 1) & 1U, 0U) << signal;
 }
 
 TEST_F(WindowProgramTest, InheritsTheClaimAndLearnsItsDescriptor) {
