@@ -5,10 +5,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <sstream>
+#include <system_error>
 
 #include "app/app_delegate.h"
 #include "app/program_entry.h"
 #include "platform/linux/process_limits.h"
+#include "platform/linux/standard_streams.h"
 #include "platform/qt/desktop_workspace.h"
 #include "platform/qt/display.h"
 #include "platform/qt/stored_defaults.h"
@@ -36,6 +39,15 @@ constexpr std::chrono::seconds kPatienceWithTheClaim{1};
 
 void printError(const std::string& text) {
   std::fprintf(stderr, "calvero: %s\n", text.c_str());
+}
+
+int print(const std::string& text) {
+  constexpr std::chrono::seconds kPatience{10};
+  const int failure = writeAll(STDOUT_FILENO, text, kPatience);
+  if (failure == 0) return 0;
+  printError("The output could not be written: " +
+             (failure == kNobodyReads ? "nobody reads it" : std::generic_category().message(failure)));
+  return kFailed;
 }
 
 /// Whether another process carries out the order. Where nobody can tell, this one does so as well.
@@ -121,7 +133,9 @@ int run(int argumentCount, char** arguments) {
   try {
     options.parse(argumentCount, arguments);
   } catch (const CLI::Success& request) {
-    return options.exit(request);  // prints the help or the version
+    std::ostringstream text;
+    options.exit(request, text, text);  // the help or the version
+    return print(text.str());
   } catch (const CLI::ParseError& error) {
     printError(std::string(error.what()) + "; see calvero --help");
     return kWrongUsage;
@@ -134,6 +148,7 @@ int run(int argumentCount, char** arguments) {
 }  // namespace calvero
 
 int main(int argumentCount, char** arguments) {
+  calvero::occupyStandardStreams();
   calvero::ignoreSignals();
   try {
     return calvero::run(argumentCount, arguments);

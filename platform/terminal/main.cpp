@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <clocale>
 #include <exception>
+#include <sstream>
 
 #include "platform/dbus/post_notification.h"
 #include "platform/linux/administrator.h"
+#include "platform/linux/standard_streams.h"
 #include "platform/linux/syslog_log.h"
 #include "platform/terminal/commands/command_list.h"
 #include "platform/terminal/commands/command_ports.h"
@@ -101,7 +103,9 @@ struct CommandLine {
 
 ExitCode parseFailure(const CLI::App& app, const CLI::ParseError& error) {
   if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
-    app.exit(error);  // prints the help or the version
+    std::ostringstream text;
+    app.exit(error, text, text);  // the help or the version
+    Output(STDOUT_FILENO).write(text.str());
     return ExitCode::finished;
   }
   std::string words = error.what();
@@ -141,10 +145,11 @@ ExitCode run(int argumentCount, char** arguments) {
 
 int main(int argumentCount, char** arguments) {
   std::setlocale(LC_CTYPE, "C.UTF-8");  // for the width of characters only
+  calvero::occupyStandardStreams();
   calvero::ignoreSignals();
   if (calvero::isStartedByPkexec()) calvero::dropEnvironmentOfCaller();
   try {
-    return static_cast<int>(calvero::run(argumentCount, arguments));
+    return static_cast<int>(calvero::afterOutput(calvero::run(argumentCount, arguments)));
   } catch (const std::exception& error) {
     calvero::printError(error.what());
     return static_cast<int>(calvero::ExitCode::failed);

@@ -1,37 +1,40 @@
 #include "platform/terminal/output.h"
 
-#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include <cerrno>
+#include <array>
+#include <atomic>
 #include <string>
+#include <system_error>
+
+#include "platform/linux/standard_streams.h"
 
 namespace calvero {
 namespace {
 
-constexpr int kForever = -1;
-constexpr int kNow = 0;  // milliseconds
+/// Longer than any reader that is at work is silent; after it, an ending program has waited long enough.
+constexpr std::chrono::seconds kPatience{10};
 
-bool isReady(int descriptor, int milliseconds) {
-  pollfd waited{descriptor, POLLOUT, 0};
-  return ::poll(&waited, 1, milliseconds) > 0;
+std::array<std::atomic<int>, STDERR_FILENO + 1> firstFailures{};
+
+int failureOf(int descriptor) {
+  const bool isStandard = descriptor >= 0 && descriptor <= STDERR_FILENO;
+  return isStandard ? firstFailures.at(static_cast<std::size_t>(descriptor)).load() : 0;
+}
+
+void noteFailure(int descriptor, int failure) {
+  if (failure == 0 || descriptor < 0 || descriptor > STDERR_FILENO) return;
+  int none = 0;
+  firstFailures.at(static_cast<std::size_t>(descriptor)).compare_exchange_strong(none, failure);
 }
 
 }  // namespace
 
 void Output::write(std::string_view text) const {
-  while (descriptor_ >= 0 && !text.empty()) {
-    const ssize_t bytes = ::write(descriptor_, text.data(), text.size());
-    if (bytes >= 0) {
-      text.remove_prefix(static_cast<std::size_t>(bytes));
-    } else if (errno == EAGAIN) {
-      // Whoever shares the terminal may have made it non-blocking.
-      isReady(descriptor_, kForever);
-    } else if (errno != EINTR) {
-      return;
-    }
-  }
+  if (descriptor_ < 0) return;
+  const auto patience = failureOf(descriptor_) == kNobodyReads ? std::chrono::seconds::zero() : kPatience;
+  noteFailure(descriptor_, writeAll(descriptor_, text, patience));
 }
 
 void Output::line(std::string_view text) const {
@@ -39,7 +42,7 @@ void Output::line(std::string_view text) const {
 }
 
 void Output::writeIfReady(std::string_view text) const {
-  if (descriptor_ >= 0 && isReady(descriptor_, kNow)) write(text);
+  if (descriptor_ >= 0 && isReadyForText(descriptor_)) write(text);
 }
 
 bool Output::isTerminal() const {
@@ -51,6 +54,12 @@ std::size_t Output::columns() const {
   winsize size{};
   if (::ioctl(descriptor_, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return kUsualColumns;
   return size.ws_col;
+}
+
+std::string whyOutputIsIncomplete() {
+  const int failure = failureOf(STDOUT_FILENO);
+  if (failure == 0) return "";
+  return failure == kNobodyReads ? "nobody reads it" : std::generic_category().message(failure);
 }
 
 }  // namespace calvero

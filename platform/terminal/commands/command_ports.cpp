@@ -65,4 +65,11 @@ void printError(const std::string& text) {
   Output(STDERR_FILENO).line("calvero-cli: " + text);
 }
 
+ExitCode afterOutput(ExitCode code) {
+  const std::string why = whyOutputIsIncomplete();
+  if (why.empty()) return code;
+  printError("The output could not be written: " + why);
+  return code == ExitCode::finished ? ExitCode::failed : code;
+}
+
 }  // namespace calvero

@@ -10,6 +10,7 @@
 #include "platform/linux/steady_clock.h"
 #include "platform/linux/syslog_log.h"
 #include "platform/terminal/asio_event_loop.h"
+#include "platform/terminal/exit_code.h"
 #include "platform/terminal/line_input.h"
 #include "platform/terminal/output.h"
 #include "platform/terminal/terminal_alerts.h"
@@ -66,5 +67,8 @@ std::vector<MountedVolume> offeredVolumes(const AppDelegate& app);
 
 /// A line on standard error under the program's name.
 void printError(const std::string& text);
+
+/// How the program ends that was to end with `code`: what could not be printed is told, and is no success.
+ExitCode afterOutput(ExitCode code);
 
 }  // namespace calvero

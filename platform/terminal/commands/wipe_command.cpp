@@ -52,7 +52,7 @@ class WipeCommand {
     const bool threadsEnded = ports_.threads.waitForAll(kTimeForThreadsToEnd);
     conclude(session);
     // A thread that hangs in the kernel would find everything destroyed under it.
-    if (!threadsEnded) std::_Exit(static_cast<int>(report_.exitCode));
+    if (!threadsEnded) std::_Exit(static_cast<int>(afterOutput(report_.exitCode)));
     return report_.exitCode;
   }
 
