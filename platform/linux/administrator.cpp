@@ -1,5 +1,7 @@
 #include "platform/linux/administrator.h"
 
+#include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -8,6 +10,7 @@
 
 #include "platform/linux/posix_error.h"
 #include "platform/linux/program_search.h"
+#include "platform/linux/trusted_path.h"
 #include "platform/linux/volume_names.h"
 #include "platform/threads/signals.h"
 
@@ -31,6 +34,25 @@ std::string quoted(const std::string& word) {
   return text + "'";
 }
 
+std::string variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+bool isOfAnother(const std::string& folder) {
+  return folder.starts_with('/') && changeableByOthers(folder).has_value();
+}
+
+/// The display's password stays where its user has it; only its place was told by the home folder.
+void keepDisplayOf(const std::string& home) {
+  constexpr int kKeep = 0;
+  const std::string password = home + "/.Xauthority";
+  struct stat entry {};
+  if (::lstat(password.c_str(), &entry) == 0 && S_ISREG(entry.st_mode)) {
+    ::setenv("XAUTHORITY", password.c_str(), kKeep);
+  }
+}
+
 }  // namespace
 
 bool isAdministrator() {
@@ -51,10 +73,41 @@ void dropEnvironmentOfCaller() {
   for (const auto& [name, value] : kept) ::setenv(name, value.c_str(), kReplace);
 }
 
+void leaveFoldersOfOthers() {
+  constexpr int kReplace = 1;
+  if (!isAdministrator()) return;
+  for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
+    if (isOfAnother(variable(name))) ::unsetenv(name);
+  }
+  const std::string home = variable("HOME");
+  if (!isOfAnother(home)) return;
+  keepDisplayOf(home);
+  const passwd* root = ::getpwuid(::geteuid());
+  const bool isKnown = root != nullptr && root->pw_dir != nullptr && !isOfAnother(root->pw_dir);
+  ::setenv("HOME", isKnown ? root->pw_dir : "/", kReplace);
+}
+
+std::optional<std::string> linkToTagStore() {
+  const std::string given = variable("CALVERO_TAG_STORE");
+  return isAdministrator() && !given.empty() ? linkOfAnother(given) : std::nullopt;
+}
+
+AdministratorProgram administratorProgram(const std::vector<std::string>& candidates) {
+  AdministratorProgram first;
+  for (const std::string& candidate : candidates) {
+    if (!isProgram(candidate)) continue;
+    const auto changeable = changeableByOthers(candidate);
+    if (!changeable) return {candidate, ""};
+    if (first.path.empty()) first = {candidate, *changeable};
+  }
+  return first;
+}
+
 std::optional<Command> administratorCommand(const std::string& program, const std::vector<std::string>& arguments,
                                             const std::string& searchPath) {
-  if (!findInPath(kPkexec, searchPath)) return std::nullopt;
-  Command command{kPkexec, program};
+  const auto pkexec = findInPath(kPkexec, searchPath);
+  if (!pkexec) return std::nullopt;
+  Command command{*pkexec, program};
   command.insert(command.end(), arguments.begin(), arguments.end());
   const auto isShownAsItIs = [](const std::string& word) { return printableLabel(word) == word; };
   return std::all_of(command.begin(), command.end(), isShownAsItIs) ? std::optional(command) : std::nullopt;
@@ -72,8 +125,8 @@ std::string becomeProgram(const Command& command) {
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   restoreIgnoredSignals();
-  ::execvp(arguments.front(), arguments.data());
-  return posixError("execvp", command.front(), errno).detail;
+  ::execv(arguments.front(), arguments.data());
+  return posixError("execv", command.front(), errno).detail;
 }
 
 }  // namespace calvero

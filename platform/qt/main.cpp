@@ -10,6 +10,7 @@
 
 #include "app/app_delegate.h"
 #include "app/program_entry.h"
+#include "platform/linux/administrator.h"
 #include "platform/linux/process_limits.h"
 #include "platform/linux/standard_streams.h"
 #include "platform/qt/desktop_workspace.h"
@@ -126,6 +127,10 @@ int showWindow(int argumentCount, char** arguments) {
 }
 
 int run(int argumentCount, char** arguments) {
+  if (const auto link = linkToTagStore()) {
+    printError("As root, the tag store is not looked for through a link of another user: " + *link);
+    return kRefused;
+  }
   CLI::App options{"Erases the free space of a mounted volume, so that deleted files cannot be read back from it.",
                    "calvero"};
   options.set_version_flag("--version", "calvero " CALVERO_VERSION);
@@ -150,6 +155,7 @@ int run(int argumentCount, char** arguments) {
 int main(int argumentCount, char** arguments) {
   calvero::occupyStandardStreams();
   calvero::ignoreSignals();
+  calvero::leaveFoldersOfOthers();
   try {
     return calvero::run(argumentCount, arguments);
   } catch (const std::exception& error) {

@@ -12,6 +12,7 @@
 #include "platform/linux/syslog_log.h"
 #include "platform/terminal/commands/command_list.h"
 #include "platform/terminal/commands/command_ports.h"
+#include "platform/terminal/text.h"
 #include "platform/threads/signals.h"
 #include "remote/remote_order.h"
 
@@ -131,6 +132,10 @@ ExitCode runCommand(const CommandLine& line) {
 }
 
 ExitCode run(int argumentCount, char** arguments) {
+  if (const auto link = linkToTagStore()) {
+    printError("As root, the tag store is not looked for through a link of another user: " + printable(*link));
+    return ExitCode::refused;
+  }
   CommandLine line;
   try {
     line.app.parse(argumentCount, arguments);
@@ -148,6 +153,7 @@ int main(int argumentCount, char** arguments) {
   calvero::occupyStandardStreams();
   calvero::ignoreSignals();
   if (calvero::isStartedByPkexec()) calvero::dropEnvironmentOfCaller();
+  calvero::leaveFoldersOfOthers();
   try {
     return static_cast<int>(calvero::afterOutput(calvero::run(argumentCount, arguments)));
   } catch (const std::exception& error) {

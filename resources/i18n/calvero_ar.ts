@@ -300,6 +300,10 @@
         <translation>لا يُسمح لك بالكتابة على محرك الأقراص هذا. اختر محرك أقراص آخر أو شغّل هذا الأمر في نافذة طرفية لمسح مساحته الفارغة بصفتك مسؤولاً.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>لا يُسمح لك بالكتابة على محرك الأقراص هذا. يستطيع أحد المستخدمين تغيير البرنامج %1، لذا يجب ألا يُشغَّل بصفة مسؤول. اطلب من المسؤول تثبيت Calvero ثم حاول مرة أخرى.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>الأمر</translation>
     </message>

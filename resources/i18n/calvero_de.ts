@@ -300,6 +300,10 @@ auf: %@</translation>
         <translation>Sie dürfen nicht auf dieses Laufwerk schreiben. Wählen Sie ein anderes Laufwerk aus oder führen Sie diesen Befehl in einem Terminal aus, um seinen freien Speicherplatz als Administrator zu löschen.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>Sie dürfen nicht auf dieses Laufwerk schreiben. Das Programm %1 kann von einem Benutzer verändert werden und darf deshalb nicht als Administrator gestartet werden. Lassen Sie Calvero vom Administrator installieren und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Befehl</translation>
     </message>

@@ -300,6 +300,10 @@
         <translation>You are not allowed to write to this drive. Select another drive, or run this command in a terminal to erase its free space as administrator.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Command</translation>
     </message>

@@ -300,6 +300,10 @@ en: %@</translation>
         <translation>No tiene permiso para escribir en esta unidad. Seleccione otra unidad o ejecute este comando en un terminal para borrar su espacio libre como administrador.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>No tiene permiso para escribir en esta unidad. Un usuario puede modificar el programa %1, por lo que no debe iniciarse como administrador. Pida al administrador que instale Calvero e inténtelo de nuevo.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Comando</translation>
     </message>

@@ -300,6 +300,10 @@ sur : %@</translation>
         <translation>Vous n’êtes pas autorisé à écrire sur ce lecteur. Sélectionnez un autre lecteur ou exécutez cette commande dans un terminal pour effacer son espace libre en tant qu’administrateur.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>Vous n’êtes pas autorisé à écrire sur ce lecteur. Un utilisateur peut modifier le programme %1 ; il ne doit donc pas être lancé en tant qu’administrateur. Faites installer Calvero par l’administrateur, puis réessayez.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Commande</translation>
     </message>

@@ -300,6 +300,10 @@ su: %@</translation>
         <translation>Non sei autorizzato a scrivere su questa unità. Seleziona un’altra unità o esegui questo comando in un terminale per cancellarne lo spazio libero come amministratore.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>Non sei autorizzato a scrivere su questa unità. Un utente può modificare il programma %1, che quindi non deve essere avviato come amministratore. Fai installare Calvero dall’amministratore, poi riprova.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Comando</translation>
     </message>

@@ -300,6 +300,10 @@
         <translation>このドライブへの書き込み権限がありません。別のドライブを選択するか、管理者として空き領域を消去するには、端末でこのコマンドを実行してください。</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>このドライブへの書き込み権限がありません。プログラム %1 はユーザーが変更できるため、管理者として起動してはいけません。管理者に Calvero をインストールしてもらってから、もう一度お試しください。</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>コマンド</translation>
     </message>

@@ -300,6 +300,10 @@
         <translation>이 드라이브에 쓸 권한이 없습니다. 다른 드라이브를 선택하거나, 터미널에서 이 명령을 실행하여 관리자 권한으로 여유 공간을 지우세요.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>이 드라이브에 쓸 권한이 없습니다. 사용자가 %1 프로그램을 변경할 수 있으므로 관리자 권한으로 시작해서는 안 됩니다. 관리자에게 Calvero 설치를 요청한 후 다시 시도하세요.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>명령</translation>
     </message>

@@ -300,6 +300,10 @@ op: %@</translation>
         <translation>U mag niet naar deze schijf schrijven. Selecteer een andere schijf of voer deze opdracht uit in een terminal om de vrije ruimte ervan als beheerder te wissen.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>U mag niet naar deze schijf schrijven. Een gebruiker kan het programma %1 wijzigen, dus mag het niet als beheerder worden gestart. Laat Calvero door de beheerder installeren en probeer het opnieuw.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Opdracht</translation>
     </message>

@@ -300,6 +300,10 @@ na dysku: %@</translation>
         <translation>Nie masz uprawnień do zapisu na tym dysku. Wybierz inny dysk lub uruchom to polecenie w terminalu, aby wymazać jego wolne miejsce jako administrator.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>Nie masz uprawnień do zapisu na tym dysku. Użytkownik może zmienić program %1, dlatego nie wolno go uruchamiać jako administrator. Poproś administratora o zainstalowanie programu Calvero, a potem spróbuj ponownie.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Polecenie</translation>
     </message>

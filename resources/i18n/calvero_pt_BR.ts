@@ -300,6 +300,10 @@ em: %@</translation>
         <translation>Você não tem permissão para gravar nesta unidade. Selecione outra unidade ou execute este comando em um terminal para apagar o espaço livre dela como administrador.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>Você não tem permissão para gravar nesta unidade. Um usuário pode alterar o programa %1; por isso, ele não deve ser iniciado como administrador. Peça ao administrador que instale o Calvero e tente novamente.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Comando</translation>
     </message>

@@ -300,6 +300,10 @@ på: %@</translation>
         <translation>Du har inte behörighet att skriva till den här enheten. Välj en annan enhet eller kör det här kommandot i en terminal för att radera dess lediga utrymme som administratör.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>Du har inte behörighet att skriva till den här enheten. En användare kan ändra programmet %1, så det får inte startas som administratör. Låt administratören installera Calvero och försök sedan igen.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Kommando</translation>
     </message>

@@ -300,6 +300,10 @@ Sürücü: %@</translation>
         <translation>Bu sürücüye yazma izniniz yok. Başka bir sürücü seçin veya boş alanını yönetici olarak silmek için bu komutu bir uçbirimde çalıştırın.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>Bu sürücüye yazma izniniz yok. Bir kullanıcı %1 programını değiştirebildiği için program yönetici olarak başlatılmamalıdır. Calvero programını yöneticiye kurdurun, sonra yeniden deneyin.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Komut</translation>
     </message>

@@ -300,6 +300,10 @@
         <translation>У вас немає дозволу на запис на цей диск. Виберіть інший диск або виконайте цю команду в терміналі, щоб стерти вільне місце на ньому як адміністратор.</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>У вас немає дозволу на запис на цей диск. Користувач може змінити програму %1, тому її не можна запускати від імені адміністратора. Попросіть адміністратора встановити Calvero, а потім спробуйте ще раз.</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>Команда</translation>
     </message>

@@ -300,6 +300,10 @@
         <translation>您无权写入此驱动器。请选择其他驱动器，或在终端中运行此命令，以管理员身份擦除其可用空间。</translation>
     </message>
     <message>
+        <source>You are not allowed to write to this drive. A user can change the program %1, so it must not be started as administrator. Have the administrator install Calvero, then try again.</source>
+        <translation>您无权写入此驱动器。用户可以更改程序 %1，因此不得以管理员身份启动它。请让管理员安装 Calvero，然后重试。</translation>
+    </message>
+    <message>
         <source>Command</source>
         <translation>命令</translation>
     </message>

@@ -52,7 +52,7 @@ class Administrator(SystemTest):
         target = self.makeForbidden()
         kept = everything(target.path)
         words = self.refusedCommand(target, target.name, "--method", "random", "--yes", "--quiet")
-        self.assertEqual(words[0], "pkexec")
+        self.assertEqual(words[0], os.path.join(self.pkexec.folder, "pkexec"))
         self.assertEqual(os.path.basename(words[1]), "calvero-cli")
         self.assertEqual(words[2:], ["wipe", target.path, "--method", "random", "--yes", "--quiet"])
         ended = self.runWith(environmentByPkexec(), *words[2:], cwd=target.path)
@@ -86,7 +86,7 @@ class Administrator(SystemTest):
         target = self.makeForbidden()
         started, _ = self.onTerminal("wipe", target.path, "--yes", env=self.pkexec.env, plainUser=True)
         self.assertEqual(started.waitForEnd(), program.EXIT_REFUSED, started.text)
-        self.assertIn("as administrator: pkexec", started.text)
+        self.assertIn(f"as administrator: {self.pkexec.folder}/pkexec", started.text)
         self.assertEqual(self.pkexec.words(), [])
 
     def testWithoutPkexecItIsNotMentioned(self):
@@ -94,6 +94,25 @@ class Administrator(SystemTest):
         ended = self.runWith({"PATH": "/nowhere"}, "wipe", target.path, "--yes", plainUser=True)
         self.assertRefused(ended, "root", target.name)
         self.assertNotIn("pkexec", ended.stderr)
+
+    def testAProgramThatAUserCanChangeIsNamedAndNotOffered(self):
+        target = self.makeForbidden()
+        copy = program.PublicCopy()
+        self.addCleanup(copy.remove)
+        folder = os.path.dirname(copy.path)
+        for changed in (copy.path, folder):
+            os.chown(changed, program.PLAIN_USER, program.PLAIN_USER)
+            ended = subprocess.run([copy.path, "wipe", target.path, "--yes"], env=os.environ | self.pkexec.env,
+                                   stdin=subprocess.DEVNULL, capture_output=True, text=True, timeout=60,
+                                   **startedAs(True))
+            self.assertRefused(ended, "root must not start", copy.path, f"can change {changed}:", "install")
+            self.assertNotIn("pkexec", ended.stderr)
+            started = TerminalProgram([copy.path, "wipe", target.path], env=self.pkexec.env, plainUser=True)
+            self.addCleanup(started.close)
+            self.assertEqual(started.waitForEnd(), program.EXIT_REFUSED, started.text)
+            self.assertIn("root must not start", started.text)
+            self.assertEqual(self.pkexec.words(), [])
+            os.chown(changed, 0, 0)
 
     def testAVolumeThatNobodyMayWriteToIsNoMatterOfRights(self):
         target = self.makeForbidden()

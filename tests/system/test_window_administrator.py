@@ -40,7 +40,7 @@ class Administrator(WindowTest):
         window = self.startWindow(env=self.pkexec.env)
         alert = self.refusal(window)
         command = window.text(window.find("text", "Command", within=alert))
-        self.assertEqual(shlex.split(command), ["pkexec", terminalProgram, "wipe", self.forbidden.path])
+        self.assertEqual(shlex.split(command), [os.path.join(self.pkexec.folder, "pkexec"), terminalProgram, "wipe", self.forbidden.path])
         window.pressButton("Copy Command", within=alert)
         self.close(window, alert)
         self.quit(window)
@@ -54,6 +54,17 @@ class Administrator(WindowTest):
             started.answer(answer)
         self.assertEqual(started.waitForEnd(), program.EXIT_FINISHED, started.text)
         self.assertNothingLeft(self.forbidden)
+
+    def testAProgramThatAUserCanChangeIsNamedAndNotOffered(self):
+        terminalProgram = shutil.copy(program.programPath(), self.pkexec.folder)
+        os.chown(terminalProgram, program.PLAIN_USER, program.PLAIN_USER)
+        window = self.startWindow(env=self.pkexec.env)
+        alert = self.refusal(window)
+        self.assertIn(terminalProgram, alert.description)
+        self.assertIn("Have the administrator install Calvero", alert.description)
+        self.assertEqual(window.findAll("push button", re.compile("Copy"), within=alert), [])
+        self.close(window, alert)
+        self.quit(window)
 
     def testWithoutTheTerminalsProgramThereIsNoCommand(self):
         window = self.startWindow(env={"PATH": self.pkexec.folder})

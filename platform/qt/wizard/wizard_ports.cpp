@@ -6,6 +6,7 @@
 #include "methods/method_catalogue.h"
 #include "platform/linux/administrator.h"
 #include "platform/linux/program_search.h"
+#include "platform/linux/volume_names.h"
 #include "platform/qt/display.h"
 #include "wipe/filler_names.h"
 
@@ -18,23 +19,32 @@ std::array<int, kMethodCount> passesOfTheMethods() {
   return passes;
 }
 
-std::optional<std::string> terminalProgram() {
+AdministratorProgram terminalProgram() {
   constexpr const char* kName = "calvero-cli";
   constexpr const char* kInBuildTree = "../terminal/calvero-cli";
-  const auto own = findBeside(ownFolder(), {kName, kInBuildTree});
-  return own ? own : findInPath(kName, searchPath());
+  const auto beside = findBeside(ownFolder(), {kName, kInBuildTree});
+  const auto inPath = findInPath(kName, searchPath());
+  return administratorProgram({installedTerminalProgram(), beside.value_or(""), inPath.value_or("")});
 }
 
 std::optional<std::string> terminalCommand(const std::string& mountPath) {
-  const auto program = isAdministrator() ? std::nullopt : terminalProgram();
-  const auto command = program ? administratorCommand(*program, {"wipe", mountPath}, searchPath()) : std::nullopt;
+  const AdministratorProgram program = terminalProgram();
+  if (isAdministrator() || !program.isTrusted()) return std::nullopt;
+  const auto command = administratorCommand(program.path, {"wipe", mountPath}, searchPath());
   return command ? std::optional(shellText(*command)) : std::nullopt;
+}
+
+std::optional<std::string> untrustedTerminalProgram() {
+  const AdministratorProgram program = terminalProgram();
+  const bool isKeptBack = !isAdministrator() && !program.path.empty() && !program.isTrusted();
+  return isKeptBack ? std::optional(printableLabel(program.path)) : std::nullopt;
 }
 
 }  // namespace
 
 WizardPorts::WizardPorts(const SuiteServices& services)
     : commandForAdministrator(terminalCommand),
+      untrustedProgram(untrustedTerminalProgram),
       suite(services),
       log([this](const std::string&) {
         loop.post([this] {

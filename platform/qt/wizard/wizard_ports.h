@@ -48,6 +48,10 @@ class WizardPorts {
   /// no such command, or this user is the administrator.
   std::function<std::optional<std::string>(const std::string& mountPath)> commandForAdministrator;
 
+  /// The terminal's program that would be in such a command, had a user not the right to change it; nothing where the
+  /// command is offered, or there is no such program at all.
+  std::function<std::optional<std::string>()> untrustedProgram;
+
   /// What the log wants whoever ordered the run to know. Event loop thread.
   std::function<void()> onNotice;
 

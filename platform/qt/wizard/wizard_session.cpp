@@ -103,7 +103,9 @@ bool WizardSession::showsAdministratorCommand() {
 
 bool WizardSession::isRefused(const Error& error) {
   if (error.code == ErrorCode::notPermitted && showsAdministratorCommand()) return true;
-  const auto refusal = refusalText(ports_.suite.texts, error);
+  const auto untrusted = error.code == ErrorCode::notPermitted ? ports_.untrustedProgram() : std::nullopt;
+  const auto refusal =
+      untrusted ? untrustedProgramText(ports_.suite.texts, *untrusted) : refusalText(ports_.suite.texts, error);
   if (refusal) inform(*refusal);
   return refusal.has_value();
 }

@@ -54,6 +54,13 @@ std::string administratorText(const Localisation& texts) {
       "its free space as administrator.");
 }
 
+std::string untrustedProgramText(const Localisation& texts, const std::string& program) {
+  return filledIn(
+      texts.localised("You are not allowed to write to this drive. A user can change the program %1, so it must not be "
+                      "started as administrator. Have the administrator install Calvero, then try again."),
+      program);
+}
+
 std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume) {
   if (outcome != RunOutcome::finished) {
     return filledIn(

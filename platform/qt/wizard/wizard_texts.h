@@ -16,6 +16,9 @@ std::optional<std::string> refusalText(const Localisation& texts, const Error& e
 /// What leads to the command with which the administrator erases a volume that this user may not.
 std::string administratorText(const Localisation& texts);
 
+/// Why there is no such command: root must not start that program.
+std::string untrustedProgramText(const Localisation& texts, const std::string& program);
+
 /// How a run on the volume of that name has ended. A flawed one went to its end, but some writes failed or some space
 /// could not be covered.
 std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume);

@@ -11,7 +11,9 @@
 #include <system_error>
 #include <vector>
 
+#include "platform/linux/administrator.h"
 #include "platform/linux/program_search.h"
+#include "platform/linux/trusted_path.h"
 #include "platform/suite/order_claim.h"
 #include "platform/threads/signals.h"
 
@@ -117,7 +119,9 @@ class DetachedStart {
 
 std::optional<std::string> findWindowProgram(const std::string& ownFolder, const std::string& searchPath) {
   const auto own = findBeside(ownFolder, {kWindowProgramName, kInBuildTree});
-  return own ? own : findInPath(kWindowProgramName, searchPath);
+  if (own) return own;
+  const auto inPath = findInPath(kWindowProgramName, searchPath);
+  return inPath && isAdministrator() && changeableByOthers(*inPath) ? std::nullopt : inPath;
 }
 
 std::optional<std::string> findWindowProgram() {

@@ -26,7 +26,7 @@ class StartedProgram {
 using Starter = std::function<std::unique_ptr<StartedProgram>(const std::string& path)>;
 
 /// The full path of the window program: in `ownFolder`, where a build puts it from there, or in an absolute folder of
-/// `searchPath`, as PATH lists them.
+/// `searchPath`, as PATH lists them; for root, one of the latter only where no other user can change it.
 std::optional<std::string> findWindowProgram(const std::string& ownFolder, const std::string& searchPath);
 /// The same for this process.
 std::optional<std::string> findWindowProgram();

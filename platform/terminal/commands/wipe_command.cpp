@@ -95,7 +95,9 @@ class WipeCommand {
 
   /// Refuses, unless a person has the administrator's program take the place of this one.
   bool refuseForWantOfRights(const Error& error) {
-    const auto command = commandForAdministrator(request_, *report_.mountPath);
+    const AdministratorProgram program = programForAdministrator();
+    if (!isAdministrator() && !program.changeable.empty()) return refuse(untrustedProgramLine(report_, program));
+    const auto command = commandForAdministrator(program, request_, *report_.mountPath);
     if (!command) return refuse(refusalLine(report_, error));
     if (!isPersonThere_ || request_.yes) return refuse(notPermittedLine(report_, *command));
     const AlertAnswer answer = ports_.alerts.runModal(administratorQuestion(report_, *command));

@@ -25,13 +25,24 @@ std::vector<std::string> wipeArguments(const WipeRequest& request, const std::st
   return arguments;
 }
 
-std::optional<Command> commandForAdministrator(const WipeRequest& request, const std::string& mountPath) {
-  if (isAdministrator()) return std::nullopt;
-  return administratorCommand(ownProgram(), wipeArguments(request, mountPath), searchPath());
+AdministratorProgram programForAdministrator() {
+  return administratorProgram({installedTerminalProgram(), ownProgram()});
+}
+
+std::optional<Command> commandForAdministrator(const AdministratorProgram& program, const WipeRequest& request,
+                                               const std::string& mountPath) {
+  if (isAdministrator() || !program.isTrusted()) return std::nullopt;
+  return administratorCommand(program.path, wipeArguments(request, mountPath), searchPath());
 }
 
 std::string notPermittedLine(const WipeReport& report, const Command& command) {
   return "You " + mayNotWrite(report) + "; to wipe it as administrator: " + shellText(command);
+}
+
+std::string untrustedProgramLine(const WipeReport& report, const AdministratorProgram& program) {
+  return "You " + mayNotWrite(report) + "; root must not start " + printable(program.path) +
+         ", since others than root can change " + printable(program.changeable) +
+         ": have root install the program, then run " + installedTerminalProgram() + " as root";
 }
 
 Alert administratorQuestion(const WipeReport& report, const Command& command) {

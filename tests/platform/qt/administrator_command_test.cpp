@@ -27,6 +27,7 @@ class AdministratorCommandInWindow : public testing::WizardFixture {
       askedFor = mountPath;
       return command;
     };
+    ports.untrustedProgram = [this] { return untrusted; };
   }
 
   /// Presses Next, is refused, and does something with the dialog before it is closed.
@@ -47,6 +48,7 @@ class AdministratorCommandInWindow : public testing::WizardFixture {
   static QLineEdit* lineOf(const QDialog& dialog) { return dialog.findChild<QLineEdit*>("alertCommand"); }
 
   std::optional<std::string> command = kCommand;
+  std::optional<std::string> untrusted;
   std::string askedFor;
 };
 
@@ -126,6 +128,20 @@ TEST_F(AdministratorCommandInWindow, IsLeftOutWhereThereIsNone) {
       EXPECT_EQ(dialog.findChild<QPushButton*>("alertCopyButton"), nullptr);
     });
     EXPECT_THAT(explanation.toStdString(), HasSubstr("ask its administrator"));
+  });
+}
+
+TEST_F(AdministratorCommandInWindow, IsNotOfferedForAProgramThatAUserCanChange) {
+  command.reset();
+  untrusted = "/home/ann/calvero-cli";
+  use([this] {
+    QString explanation;
+    refuse([&](QDialog& dialog) {
+      explanation = dialog.accessibleDescription();
+      EXPECT_EQ(lineOf(dialog), nullptr);
+    });
+    EXPECT_THAT(explanation.toStdString(), HasSubstr("/home/ann/calvero-cli"));
+    EXPECT_THAT(explanation.toStdString(), HasSubstr("Have the administrator install Calvero"));
   });
 }
 

@@ -80,6 +80,14 @@ TEST_F(WindowProgramTest, IsNeverTakenFromTheFolderThatHappensToBeTheCurrentOne)
   std::filesystem::current_path(before);
 }
 
+TEST_F(WindowProgramTest, IsNotTakenByRootFromAFolderInThePathThatOthersCanChange) {
+  if (::geteuid() != 0) GTEST_SKIP() << "a user starts what it finds";
+  const std::string found = makeProgram("bin/calvero");
+  EXPECT_EQ(findWindowProgram(in("none"), in("bin")), found);
+  ASSERT_EQ(::chmod(in("bin").c_str(), S_IRWXU | S_IRWXO), 0);
+  EXPECT_EQ(findWindowProgram(in("none"), in("bin")), std::nullopt);
+}
+
 TEST_F(WindowProgramTest, TellsHowItEnded) {
   const auto failing = startDetached(makeProgram("a", "exit 7"), kNoClaim);
   waitForEnd(*failing);
