@@ -9,8 +9,15 @@
 #include <QStringList>
 #include <QUrl>
 #include <QVariantMap>
+#include <filesystem>
+#include <optional>
+#include <system_error>
 
+#include "platform/linux/administrator.h"
+#include "platform/linux/program_search.h"
+#include "platform/linux/trusted_path.h"
 #include "platform/suite/suite_folder.h"
+#include "ports/system_log.h"
 
 namespace calvero {
 namespace {
@@ -31,6 +38,20 @@ bool isBusName(const QString& text) {
   return text.size() <= kLongest && form.match(text).hasMatch();
 }
 
+std::string programAt(const std::string& path) {
+  constexpr const char* kProgramInFolder = "home-application";
+  std::error_code unknown;
+  const bool isFolder = std::filesystem::is_directory(path, unknown);
+  return isFolder ? (std::filesystem::path(path) / kProgramInFolder).string() : path;
+}
+
+std::optional<std::string> whyNotToBeStarted(const std::string& program) {
+  if (!isProgram(program)) return "there is no program " + program;
+  const auto changeable = isAdministrator() ? changeableByOthers(program) : std::nullopt;
+  if (!changeable) return std::nullopt;
+  return "root must not start " + program + ", since others than root can change " + *changeable;
+}
+
 }  // namespace
 
 void DesktopWorkspace::openAddress(const std::string& address) {
@@ -39,8 +60,13 @@ void DesktopWorkspace::openAddress(const std::string& address) {
 }
 
 void DesktopWorkspace::launchApplication(const std::string& path) {
-  if (path.empty()) return;
-  QProcess::startDetached(QString::fromStdString(path), QStringList(), QDir::homePath());
+  const std::string program = programAt(path);
+  const auto refusal = whyNotToBeStarted(program);
+  if (refusal) {
+    log_.line("no application is started: " + *refusal);
+  } else if (!QProcess::startDetached(QString::fromStdString(program), QStringList(), QDir::homePath())) {
+    log_.line("no application is started: the system cannot start " + program);
+  }
 }
 
 void DesktopWorkspace::bringToFront(const std::string& identifier) {

@@ -81,7 +81,7 @@ void waitForTheStatus(SqliteTagStore& tags, const WizardSession& session) {
 int showWindow(int argumentCount, char** arguments) {
   SyslogLog log;
   SqliteTagStore tags(tagStorePath(), log);
-  DesktopWorkspace workspace;
+  DesktopWorkspace workspace(log);
   SuiteAddresses addresses(workspace);
   StoredDefaults defaults;
   Authentication authentication(tags, addresses);

@@ -1,6 +1,8 @@
 #include "platform/qt/desktop_workspace.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -15,11 +17,19 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <array>
+#include <csignal>
+#include <map>
 
 #include "platform/suite/suite_folder.h"
+#include "platform/threads/signals.h"
+#include "tests/fakes/journal.h"
+#include "tests/fakes/small_fakes.h"
 
 namespace calvero {
 namespace {
+
+testing::Journal noJournal;
+testing::FakeLog noLog{noJournal};
 
 /// Takes addresses in place of the browser.
 class AddressCatcher : public QTextBrowser {
@@ -42,7 +52,7 @@ class AddressCatcher : public QTextBrowser {
 
 TEST(DesktopWorkspace, OpensWebAddressesAsTheyAre) {
   AddressCatcher browser;
-  DesktopWorkspace workspace;
+  DesktopWorkspace workspace(noLog);
   workspace.openAddress("https://portal.ondrel.example/login?u1/d9/do");
   workspace.openAddress("http://www.ondrel.example/a%20b");
   workspace.openAddress("https://portal.ondrel.example/login?(null)/(null)/do");
@@ -53,7 +63,7 @@ TEST(DesktopWorkspace, OpensWebAddressesAsTheyAre) {
 
 TEST(DesktopWorkspace, IgnoresWhatIsNoWebAddress) {
   AddressCatcher browser;
-  DesktopWorkspace workspace;
+  DesktopWorkspace workspace(noLog);
   for (const char* address : {"file:///etc/passwd", "mailto:someone@ondrel.example", "", "u1/d9/do", "https://",
                               "https:relative", "javascript:1", "/etc/passwd", "-version"}) {
     workspace.openAddress(address);
@@ -61,39 +71,90 @@ TEST(DesktopWorkspace, IgnoresWhatIsNoWebAddress) {
   EXPECT_EQ(browser.opened, QStringList());
 }
 
-TEST(DesktopWorkspace, LaunchesAnApplicationInTheHomeFolderWithoutArguments) {
-  const QTemporaryDir folder;
-  const QString result = folder.filePath("result");
-  QFile application(folder.filePath("a program"));
-  ASSERT_TRUE(application.open(QIODevice::WriteOnly));
-  application.write("#!/bin/sh\n{ echo \"$#\"; pwd; } > '" + result.toUtf8() + ".new'\n" + "mv '" + result.toUtf8() +
-                    ".new' '" + result.toUtf8() + "'\n");
-  application.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-  application.close();
+/// A folder with a program that leaves what it finds in the file "result".
+class LaunchedApplication : public ::testing::Test {
+ protected:
+  QString install(const QString& name) const {
+    QFile application(folder_.filePath(name));
+    EXPECT_TRUE(application.open(QIODevice::WriteOnly));
+    application.write("#!/bin/sh\n{ echo \"$#\"; pwd; grep SigIgn /proc/self/status; } > '" + result().toUtf8() +
+                      ".new'\nmv '" + result().toUtf8() + ".new' '" + result().toUtf8() + "'\n");
+    application.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    return application.fileName();
+  }
+  [[nodiscard]] QString result() const { return folder_.filePath("result"); }
+  /// What the program found; nothing when it has not been started.
+  [[nodiscard]] QStringList found() const {
+    QFile told(result());
+    if (!QTest::qWaitFor([&] { return QFile::exists(result()); }, 10000)) return {};
+    return told.open(QIODevice::ReadOnly) ? QString(told.readAll()).split('\n') : QStringList();
+  }
 
-  DesktopWorkspace().launchApplication(application.fileName().toStdString());
-  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(result); }, 10000));
-  QFile told(result);
-  ASSERT_TRUE(told.open(QIODevice::ReadOnly));
-  const QStringList lines = QString(told.readAll()).split('\n');
+  const QTemporaryDir folder_;
+  testing::Journal journal_;
+  testing::FakeLog log_{journal_};
+};
+
+TEST_F(LaunchedApplication, IsStartedInTheHomeFolderWithoutArguments) {
+  DesktopWorkspace(log_).launchApplication(install("a program").toStdString());
+  const QStringList lines = found();
+  ASSERT_GE(lines.size(), 2);
   EXPECT_EQ(lines[0], "0");
   EXPECT_EQ(QFileInfo(lines[1]).canonicalFilePath(), QFileInfo(QDir::homePath()).canonicalFilePath());
+  EXPECT_EQ(journal_.all(), testing::Steps{});
 }
 
-TEST(DesktopWorkspace, LaunchingWhatIsNoProgramIsNotAFailure) {
-  DesktopWorkspace workspace;
-  for (const char* path : {"", "/", "/no/such/program", "/etc/passwd"}) workspace.launchApplication(path);
+TEST_F(LaunchedApplication, IsTheHomeApplicationOfAFolder) {
+  install("home-application");
+  DesktopWorkspace(log_).launchApplication(folder_.path().toStdString());
+  EXPECT_FALSE(found().isEmpty());
+  EXPECT_EQ(journal_.all(), testing::Steps{});
+}
+
+TEST_F(LaunchedApplication, FindsNoSignalIgnoredThatThisProgramIgnores) {
+  std::map<int, void (*)(int)> before;
+  for (const int signal : kIgnoredSignals) before[signal] = std::signal(signal, SIG_DFL);
+  ignoreSignals();
+  DesktopWorkspace(log_).launchApplication(install("a program").toStdString());
+  for (const auto& [signal, handler] : before) std::signal(signal, handler);
+  const QStringList lines = found();
+  ASSERT_GE(lines.size(), 3);
+  constexpr int kHexadecimal = 16;
+  const qulonglong ignored = lines[2].section('\t', 1).toULongLong(nullptr, kHexadecimal);
+  for (const int signal : kIgnoredSignals) EXPECT_EQ(ignored >> (signal - 1) & 1U, 0U) << signal;
+}
+
+TEST_F(LaunchedApplication, ThatIsNoneIsToldByTheLog) {
+  DesktopWorkspace workspace(log_);
+  for (const std::string& path :
+       {std::string(), std::string("/no/such/program"), std::string("/etc/passwd"), folder_.path().toStdString()}) {
+    workspace.launchApplication(path);
+  }
+  EXPECT_EQ(journal_.all(), (testing::Steps{"log no application is started: there is no program ",
+                                            "log no application is started: there is no program /no/such/program",
+                                            "log no application is started: there is no program /etc/passwd",
+                                            "log no application is started: there is no program " +
+                                                folder_.path().toStdString() + "/home-application"}));
+}
+
+TEST_F(LaunchedApplication, IsNotStartedByRootWhereAnotherUserCanChangeIt) {
+  if (::geteuid() != 0) GTEST_SKIP() << "needs the right to give files away";
+  const std::string program = install("home-application").toStdString();
+  ASSERT_EQ(::chmod(folder_.path().toUtf8(), 0777), 0);
+  DesktopWorkspace(log_).launchApplication(folder_.path().toStdString());
+  EXPECT_EQ(journal_.all(), testing::Steps{"log no application is started: root must not start " + program +
+                                           ", since others than root can change " + folder_.path().toStdString()});
 }
 
 TEST(DesktopWorkspace, KnowsItsOwnPlace) {
-  EXPECT_EQ(DesktopWorkspace().bundlePath(), QFileInfo("/proc/self/exe").canonicalFilePath().toStdString());
+  EXPECT_EQ(DesktopWorkspace(noLog).bundlePath(), QFileInfo("/proc/self/exe").canonicalFilePath().toStdString());
 }
 
 TEST(DesktopWorkspace, HasTheUsersFolderInWhichTheSuiteKeepsItsFiles) {
   const QByteArray before = qgetenv("XDG_DATA_HOME");
   for (const char* given : {"/data/ann", "data", ""}) {
     qputenv("XDG_DATA_HOME", given);
-    EXPECT_EQ(DesktopWorkspace().applicationSupportFolder(), userDataFolder()) << given;
+    EXPECT_EQ(DesktopWorkspace(noLog).applicationSupportFolder(), userDataFolder()) << given;
   }
   before.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before);
 }
@@ -150,7 +211,7 @@ TEST(DesktopWorkspace, AsksTheRunningApplicationOfTheIdentifierToActivateItself)
   const PrivateBus bus;
   ASSERT_FALSE(bus.address().isEmpty());
   RunningApplication application(bus.address(), "org.example.Home-App");
-  DesktopWorkspace workspace([&] { return QDBusConnection::connectToBus(bus.address(), "workspace"); });
+  DesktopWorkspace workspace(noLog, [&] { return QDBusConnection::connectToBus(bus.address(), "workspace"); });
   workspace.bringToFront("org.example.None");
   workspace.bringToFront("org.example.Home-App");
   QDBusConnection::disconnectFromBus("workspace");  // nothing more is sent from here on
@@ -159,11 +220,11 @@ TEST(DesktopWorkspace, AsksTheRunningApplicationOfTheIdentifierToActivateItself)
 }
 
 TEST(DesktopWorkspace, WithoutABusOrWithAnIdentifierThatIsNoneNothingIsBroughtToTheFront) {
-  DesktopWorkspace without([] { return QDBusConnection::connectToBus("unix:path=/no/such/socket", "none"); });
+  DesktopWorkspace without(noLog, [] { return QDBusConnection::connectToBus("unix:path=/no/such/socket", "none"); });
   without.bringToFront("com.PelmarSoftware.PelmarMacCleaner");
   if (QStandardPaths::findExecutable("dbus-daemon").isEmpty()) GTEST_SKIP() << "needs dbus-daemon";
   const PrivateBus bus;
-  DesktopWorkspace with([&] { return QDBusConnection::connectToBus(bus.address(), "workspace"); });
+  DesktopWorkspace with(noLog, [&] { return QDBusConnection::connectToBus(bus.address(), "workspace"); });
   for (const char* identifier : {"", "not a name", "..", "a/b", "plain", "a.0b", "a.b\n"})
     with.bringToFront(identifier);
   QDBusConnection::disconnectFromBus("workspace");
