@@ -28,8 +28,9 @@ class Output(SystemTest):
 
     def commands(self):
         wipe = ["wipe", self.target.path, "--method", "1", "--yes"]
-        return [["volumes"], ["volumes", "--json"], ["methods"], ["methods", "--json"], ["status"], ["status", "--json"],
-                ["clear"], ["--help"], ["wipe", "--help"], ["--version"], wipe, [*wipe, "--quiet"], [*wipe, "--json"]]
+        return [["volumes"], ["volumes", "--json"], ["methods"], ["methods", "--json"], ["status"],
+                ["status", "--json"], ["clear"], ["--help"], ["wipe", "--help"], ["--version"], wipe,
+                [*wipe, "--quiet"], [*wipe, "--json"]]
 
     def runWith(self, arguments, path=None, **streams):
         return subprocess.run([path or program.programPath(), *arguments], env=self.env, stdin=subprocess.DEVNULL,

@@ -1,4 +1,5 @@
-"""Root with the environment of another user, as sudo -E leaves it: nothing is made or followed in that user's folders."""
+"""Root with the environment of another user, as sudo -E leaves it: nothing is made or followed in that user's
+folders."""
 
 import os
 import pwd

@@ -43,8 +43,10 @@ class Home(WindowTest):
         with socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as log:
             log.setblocking(False)
             log.bind(path)
-            window = self.startWindow(command=["unshare", "--mount", "sh", "-c", (
-                'mount -t tmpfs log /dev && : >/dev/log && mount --bind "$0" /dev/log && exec "$1"'), path, self.program])
+            window = self.startWindow(command=[
+                "unshare", "--mount", "sh", "-c",
+                'mount -t tmpfs log /dev && : >/dev/log && mount --bind "$0" /dev/log && exec "$1"',
+                path, self.program])
             window.pressButton("Home")
             self.assertEqual(window.waitForEnd(ENDS_WITHIN_SECONDS), (0, "", ""))
             lines = []
