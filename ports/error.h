@@ -14,6 +14,7 @@ enum class ErrorCode {
   full,          ///< no space left, or the user's quota is used up: the normal end of a fill
   busy,          ///< another run holds the filler directory
   notOurs,       ///< the filler directory's name leads to something that a run did not make
+  locked,        ///< a filler directory that an earlier run left may not be changed
   gone,          ///< the medium fails or has been pulled
   noHandles,     ///< the limit of open files is reached
   closed,        ///< the run's filler directory has been given back; nothing more is created in it

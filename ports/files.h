@@ -70,14 +70,15 @@ class FillerDirectory {
 
   /// Removes the file's name, and keeps its space taken until `releaseSpace`: a file system hands the blocks of a
   /// deleted file to the next one, which would then overwrite the same blocks again and leave the others as they
-  /// were. Where the limit of open files forbids that, the name is removed all the same and `bytesNotKept` grows; where
-  /// the file cannot be opened for another reason it stays as it is, and keeps its space so.
+  /// were. Where the limit of open files forbids that, the name stays and keeps the space, which is a success; so it
+  /// does where the file cannot be opened for another reason, which is reported.
   virtual Error removeItem(const std::string& path) = 0;
 
-  /// Bytes of removed files whose space could not be kept (limit of open files), so far.
+  /// Bytes of written files whose space was lost before it was released: another program has removed or replaced a
+  /// name that kept it. Grows in `releaseSpace` and `remove`, which look.
   virtual std::uint64_t bytesNotKept() const = 0;
 
-  /// Gives back the space of every removed file. Blocks while the file system frees it.
+  /// Gives back the space of every removed file, with the names that kept it. Blocks while the file system frees it.
   virtual void releaseSpace() = 0;
 
   /// Grows while `releaseSpace` and `remove` get on: what tells a large clean-up from a volume that does not answer.
@@ -98,7 +99,8 @@ class Files {
   virtual bool exists(const std::string& path) = 0;
 
   /// Whether `createFillerDirectory` could succeed now. Creates and changes nothing. Codes: `notPermitted`,
-  /// `readOnly`, `busy`, `notOurs`, `notFound`, `gone`; the last also when the volume does not answer for seconds.
+  /// `readOnly`, `busy`, `notOurs`, `locked`, `notFound`, `gone`; the last also when the volume does not answer for
+  /// seconds.
   virtual Error checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) = 0;
 
   /// Makes the filler directory, or takes over the one an interrupted run left, and locks it. It is taken over only if

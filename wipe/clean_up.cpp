@@ -63,29 +63,26 @@ void AppDelegate::removeFillerDirectory(WipeRun& run, const std::string& volumeP
     if (const std::uint64_t bytes = directory->bytesNotKept(); bytes != 0 && run.notKeptTold.exchange(1) == 0) {
       ports_.log.notice(
           getFormattedStringForSize(bytes) +
-          " could not be held until the end of the run (limit of open files): as much of what was deleted "
-          "may remain readable");
+          " were not held until the end of the run, since another program removed filler files: as much of what was "
+          "deleted may remain readable");
     }
     error = directory->remove();
   } else {
     error = ports_.files.removeFillerDirectory(volumePath, fillerDirectoryPath(volumePath));
   }
+  run.noteRemoval(error);
   if (!error.failed() || error.code == ErrorCode::notFound) return;
+  ports_.log.line(error.text());
   // Some file systems keep an entry while the worker still has its file open; it removes the directory when it ends.
-  if (run.stopRequested()) {
-    ports_.log.line(error.text());
-  } else {
-    ports_.log.notice(error.text());
-  }
+  if (!run.stopRequested() || meansLostVolume(error.code)) run.noteFault(error);
   if (!meansLostVolume(error.code)) return;
-  run.noteFault(error);
   run.volumeEjected = 1;
   run.abortErasing = 1;
   run.end(RunOutcome::failed);
 }
 
 void AppDelegate::logFaults(const WipeRun& run) const {
-  if (run.faults() == 0) return;
+  if (run.faults() == 0 || run.isFlawedByRemainsOnly()) return;
   ports_.log.line(std::to_string(run.faults()) +
                   " failures, so that deleted data may remain readable; the first one: " + run.firstFault().text());
 }

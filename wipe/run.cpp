@@ -103,7 +103,9 @@ void AppDelegate::runWorker(WipeRun& run) {
     giveUp(run, error);
   }
   // A run that did not get to its own clean-up, or was stopped before it, has nobody else to remove its directory.
-  if (const auto directory = run.directory(); directory && run.outcome != RunOutcome::finished) directory->remove();
+  if (const auto directory = run.directory(); directory && run.outcome != RunOutcome::finished) {
+    run.noteRemoval(directory->remove());
+  }
   // The controller keeps the run; the volume must be free to be unmounted and for the next run all the same.
   run.setDirectory(nullptr);
   run.workerEnded = 1;

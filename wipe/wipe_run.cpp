@@ -20,6 +20,16 @@ bool WipeRun::claimStatus(StatusTeller teller) {
   return statusTeller.compare_exchange_strong(first, teller) || first == teller;
 }
 
+bool WipeRun::cancel() {
+  // In this order: a worker that sees the flags may note an outcome of its own at once, and one that saw only
+  // `terminateThread` would clean up and report as if it had finished.
+  const bool comesInTime = claimStatus(StatusTeller::cancel);
+  if (comesInTime) end(RunOutcome::cancelled);
+  abortErasing = 1;
+  terminateThread = 1;
+  return comesInTime;
+}
+
 std::shared_ptr<FillerDirectory> WipeRun::directory() const {
   const std::scoped_lock lock(mutex_);
   return directory_;
@@ -38,6 +48,21 @@ void WipeRun::noteRefusal(const Error& refusal) {
 Error WipeRun::refusal() const {
   const std::scoped_lock lock(mutex_);
   return refusal_;
+}
+
+void WipeRun::noteRemoval(const Error& result) {
+  const std::scoped_lock lock(mutex_);
+  remains_ = result.code == ErrorCode::notFound ? Error{} : result;
+}
+
+Error WipeRun::remains() const {
+  const std::scoped_lock lock(mutex_);
+  return remains_;
+}
+
+bool WipeRun::isFlawedByRemainsOnly() const {
+  const std::scoped_lock lock(mutex_);
+  return faults_ == 1 && remains_.failed();
 }
 
 void WipeRun::noteFault(const Error& fault) {

@@ -20,7 +20,7 @@ class FillerDirectory;
 /// How a run ended. The first outcome that is noted stands.
 enum class RunOutcome : std::uint8_t {
   none,      ///< not started, or still under way
-  finished,  ///< every filler file was written in its turn; a directory that could not be removed is in the log
+  finished,  ///< every filler file was written in its turn; a directory that could not be removed is a fault
   failed,    ///< the volume or a filler file is gone
   cancelled,
 };
@@ -75,6 +75,8 @@ struct WipeRun {
   void end(RunOutcome how);
   /// Whether the status of an ordered run is `teller`'s to tell: the first one to ask has it for good. Any thread.
   [[nodiscard]] bool claimStatus(StatusTeller teller);
+  /// Notes the outcome and raises the stop flags. False when the run has told its end already. Any thread.
+  bool cancel();
 
   /// The filler directory while the run has one, else null. Any thread.
   [[nodiscard]] std::shared_ptr<FillerDirectory> directory() const;
@@ -86,16 +88,25 @@ struct WipeRun {
   [[nodiscard]] Error refusal() const;
 
   /// Counts a filler file that could not be created or opened, a write or flush that failed for another reason than a
-  /// full volume, a directory or removal that failed with the volume lost, and what the program could not go on with;
-  /// remembers the first. A run with a fault may have left data readable, whatever its outcome. Any thread.
+  /// full volume, a directory that stays after a run, a removal that failed with the volume lost, and what the program
+  /// could not go on with; remembers the first. A run with a fault may have left data readable, whatever its outcome.
+  /// Any thread.
   void noteFault(const Error& fault);
   [[nodiscard]] Error firstFault() const;
   [[nodiscard]] std::uint64_t faults() const;
+
+  /// Notes what became of the directory's removal; the last attempt counts. Any thread.
+  void noteRemoval(const Error& result);
+  /// Why the directory is still there after its removal; success where it is gone. Any thread.
+  [[nodiscard]] Error remains() const;
+  /// Whether the one fault of the run is the directory that stayed. Any thread.
+  [[nodiscard]] bool isFlawedByRemainsOnly() const;
 
  private:
   mutable std::mutex mutex_;  // guards the members below; never held across a call to the outside
   std::shared_ptr<FillerDirectory> directory_;
   Error refusal_;
+  Error remains_;
   Error firstFault_;
   std::uint64_t faults_ = 0;
 };

@@ -24,6 +24,7 @@ std::optional<FileIdentity> readIdentity(int folder, const char* name, int flags
   identity.links = found.stx_nlink;
   identity.sizeBytes = found.stx_size;
   identity.allocatedBytes = found.stx_blocks * kStatBlockBytes;
+  identity.locked = (found.stx_attributes & (STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND)) != 0;
   return identity;
 }
 

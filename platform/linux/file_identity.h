@@ -19,6 +19,7 @@ struct FileIdentity {
   std::uint64_t links = 0;
   std::uint64_t sizeBytes = 0;
   std::uint64_t allocatedBytes = 0;
+  bool locked = false;  ///< by an attribute that lets nobody change it, or only add to it
 
   [[nodiscard]] bool isFolder() const { return S_ISDIR(mode); }
   [[nodiscard]] bool isSymbolicLink() const { return S_ISLNK(mode); }

@@ -37,17 +37,18 @@ Error lockFolder(const OpenFolder& folder, const std::string& path) {
 
 }  // namespace
 
-OpenFolder claimDirectory(const FillerPlace& place, IfAbsent ifAbsent, Error& error) {
+OpenFolder claimDirectory(const FillerPlace& place, IfAbsent ifAbsent, const FillerMoments& moments, Error& error) {
   for (int attempt = 0; attempt < kClaimAttempts; ++attempt) {
     if (ifAbsent == IfAbsent::make) {
       error = place.makeDirectory();
       if (error.failed() && error.code != ErrorCode::exists) return {};
     }
-    OpenFolder directory = place.openDirectory(error);
+    OpenFolder directory = place.openDirectory(IfClosed::open, error);
     if (!directory.isOpen()) {
       if (ifAbsent == IfAbsent::make && error.code == ErrorCode::notFound) continue;
       return {};
     }
+    pass(moments.directoryOpened);
     error = lockFolder(directory, place.path());
     if (error.failed()) return {};
     if (!place.leadsTo(directory)) continue;
@@ -59,7 +60,7 @@ OpenFolder claimDirectory(const FillerPlace& place, IfAbsent ifAbsent, Error& er
 }
 
 OpenFolder openUnclaimed(const FillerPlace& place, Error& error) {
-  OpenFolder directory = place.openDirectory(error);
+  OpenFolder directory = place.openDirectory(IfClosed::leave, error);
   if (!directory.isOpen()) return {};
   error = lockFolder(directory, place.path());
   if (!error.failed()) {

@@ -29,6 +29,17 @@ bool fileSystemShowsNoOwners(int descriptor) {
   }
 }
 
+/// The umask of whoever started the run that left it may have taken the owner's rights.
+bool isClosed(const FileIdentity& folder) {
+  return (folder.mode & S_IRWXU) != S_IRWXU;
+}
+
+/// Opening fails where this did.
+void openToOwner(int found) {
+  // Through the descriptor that was looked at, which as an O_PATH one takes no fchmod.
+  ::chmod(("/proc/self/fd/" + std::to_string(found)).c_str(), S_IRWXU);
+}
+
 }  // namespace
 
 std::optional<FillerPlace> FillerPlace::open(const std::string& volumePath, const std::string& directoryPath,
@@ -83,14 +94,20 @@ const char* FillerPlace::whyNotOurs(const FileIdentity& found) const {
   return "it belongs to another user";
 }
 
-OpenFolder FillerPlace::openDirectory(Error& error) const {
+OpenFolder FillerPlace::openDirectory(IfClosed ifClosed, Error& error) const {
   const OpenFolder found = lookUp(root_.get(), name_.c_str(), path_, error);
   if (!found.isOpen()) return {};
   if (const char* reason = whyNotOurs(found.identity)) {
     error = {ErrorCode::notOurs, "openat", path_, reason};
     return {};
   }
+  if (ifClosed == IfClosed::open && isClosed(found.identity)) openToOwner(found.get());
   return openFound(found, path_, error);
+}
+
+bool FillerPlace::isClosedToUs() const {
+  const auto found = identityAt(root_.get(), name_.c_str());
+  return found && whyNotOurs(*found) == nullptr && isClosed(*found);
 }
 
 bool FillerPlace::leadsTo(const OpenFolder& directory) const {

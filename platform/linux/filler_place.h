@@ -8,6 +8,9 @@
 
 namespace calvero {
 
+/// What becomes of a directory of ours whose mode keeps even us out of it.
+enum class IfClosed { leave, open };
+
 /// The name in a volume's root under which a filler directory is, or will be. The volume is treated as hostile: what
 /// is found under the name is believed to be a run's only after it has been looked at.
 class FillerPlace {
@@ -30,7 +33,9 @@ class FillerPlace {
   [[nodiscard]] Error makeDirectory() const;
   /// Opens the directory under the name if it may be a run's: `notOurs` for a link, a mount point, another user's
   /// directory, and what is no directory at all.
-  OpenFolder openDirectory(Error& error) const;
+  OpenFolder openDirectory(IfClosed ifClosed, Error& error) const;
+  /// Whether there is a directory of ours under the name that only `IfClosed::open` opens.
+  [[nodiscard]] bool isClosedToUs() const;
   /// Whether the name still leads to that directory.
   [[nodiscard]] bool leadsTo(const OpenFolder& directory) const;
   /// Removes the directory, which must be empty, by its name, or by the one that it was given since in the volume's

@@ -1,5 +1,7 @@
 #include "platform/linux/held_files.h"
 
+#include <utility>
+
 namespace calvero {
 
 void HeldFiles::keep(Descriptor file) {
@@ -35,6 +37,21 @@ void HeldFiles::releaseForGood(std::atomic<std::uint64_t>& steps) {
     closed_ = true;
   }
   release(steps);
+}
+
+void HeldNames::note(const std::string& name, const FileIdentity& file) {
+  const std::lock_guard lock(mutex_);
+  names_[name] = file;
+}
+
+void HeldNames::forget(const std::string& name) {
+  const std::lock_guard lock(mutex_);
+  names_.erase(name);
+}
+
+HeldNames::Names HeldNames::takeAll() {
+  const std::lock_guard lock(mutex_);
+  return std::exchange(names_, {});
 }
 
 }  // namespace calvero

@@ -2,10 +2,13 @@
 
 #include <atomic>
 #include <cstdint>
+#include <map>
 #include <mutex>
+#include <string>
 #include <vector>
 
 #include "platform/linux/descriptor.h"
+#include "platform/linux/file_identity.h"
 
 namespace calvero {
 
@@ -23,6 +26,21 @@ class HeldFiles {
   std::mutex mutex_;  // never held while a descriptor is closed, since that can block for seconds
   std::vector<Descriptor> files_;
   bool closed_ = false;
+};
+
+/// Written files that hold their space by their names, since no descriptor could be had for them. Any thread.
+class HeldNames {
+ public:
+  using Names = std::map<std::string, FileIdentity>;
+
+  void note(const std::string& name, const FileIdentity& file);
+  void forget(const std::string& name);
+  /// Every name that was noted, each with the file that it led to; none is noted any more.
+  Names takeAll();
+
+ private:
+  std::mutex mutex_;
+  Names names_;
 };
 
 }  // namespace calvero

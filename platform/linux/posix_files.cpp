@@ -40,15 +40,22 @@ Error makePrivate(const FillerPlace& place, const OpenFolder& directory) {
   return keepsNoModes && place.showsNoOwners() ? Error{} : error;
 }
 
-Error prepare(const FillerPlace& place, const OpenFolder& directory) {
+/// What the system forbids in a directory that is ours is not a matter of the volume's root.
+Error asLocked(Error error) {
+  if (error.code == ErrorCode::notPermitted) error.code = ErrorCode::locked;
+  return error;
+}
+
+Error prepare(const FillerPlace& place, const OpenFolder& directory, const FillerMoments& moments) {
+  pass(moments.contentsSeen);
   Error error = makePrivate(place, directory);
   // Again, for until now somebody may have moved something in.
   if (!error.failed()) error = checkLeftContents(directory, place.path());
-  if (error.failed()) return error;
+  if (error.failed()) return asLocked(error);
   std::atomic<std::uint64_t> steps{0};  // nobody waits for these
   error = emptyFolder(directory, place.path(), steps);
   if (!error.failed()) switchOffCopyOnWrite(directory);
-  return error;
+  return asLocked(error);
 }
 
 Error whyNoFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
@@ -60,9 +67,11 @@ Error whyNoFillerDirectory(const std::string& volumePath, const std::string& dir
     // Its mode does not matter: taking it over sets it.
     struct statvfs properties = {};
     if (::fstatvfs(directory.get(), &properties) != 0) return posixError("fstatvfs", directoryPath, errno);
-    return (properties.f_flag & ST_RDONLY) != 0 ? posixError("fstatvfs", directoryPath, EROFS) : Error{};
+    if ((properties.f_flag & ST_RDONLY) != 0) return posixError("fstatvfs", directoryPath, EROFS);
+    return directory.identity.locked ? asLocked(posixError("statx", directoryPath, EPERM)) : Error{};
   }
   Error writable = place->checkWritable();
+  if (error.code == ErrorCode::notPermitted && place->isClosedToUs()) return writable;
   if (error.code == ErrorCode::notFound) return writable;
   // Whoever may not write there can neither clear away what is in the way nor have a run of his own there.
   const bool isOutOfReach = error.code == ErrorCode::notOurs && writable.code == ErrorCode::notPermitted;
@@ -88,9 +97,9 @@ std::unique_ptr<FillerDirectory> PosixFiles::createFillerDirectory(const std::st
   auto place = FillerPlace::open(volumePath, directoryPath, error);
   if (!place) return nullptr;
   const bool isNew = place->isFree();
-  OpenFolder directory = claimDirectory(*place, IfAbsent::make, error);
-  if (directory.isOpen()) error = prepare(*place, directory);
-  if (!error.failed()) return std::make_unique<PosixFillerDirectory>(std::move(*place), std::move(directory));
+  OpenFolder directory = claimDirectory(*place, IfAbsent::make, moments_, error);
+  if (directory.isOpen()) error = prepare(*place, directory, moments_);
+  if (!error.failed()) return std::make_unique<PosixFillerDirectory>(std::move(*place), std::move(directory), moments_);
   directory = OpenFolder{};  // gives up the lock
   if (isNew) removeFillerDirectory(volumePath, directoryPath);
   return nullptr;
@@ -100,7 +109,7 @@ Error PosixFiles::removeFillerDirectory(const std::string& volumePath, const std
   Error error;
   auto place = FillerPlace::open(volumePath, directoryPath, error);
   if (!place) return error;
-  OpenFolder directory = claimDirectory(*place, IfAbsent::report, error);
+  OpenFolder directory = claimDirectory(*place, IfAbsent::report, moments_, error);
   if (!directory.isOpen()) return error;
   return PosixFillerDirectory(std::move(*place), std::move(directory)).remove();
 }

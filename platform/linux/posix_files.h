@@ -1,11 +1,16 @@
 #pragma once
 
+#include <utility>
+
+#include "platform/linux/filler_moments.h"
 #include "ports/files.h"
 
 namespace calvero {
 
 class PosixFiles : public Files {
  public:
+  explicit PosixFiles(FillerMoments moments = {}) : moments_(std::move(moments)) {}
+
   bool exists(const std::string& path) override;
   Error checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) override;
   std::unique_ptr<FillerDirectory> createFillerDirectory(const std::string& volumePath,
@@ -16,6 +21,9 @@ class PosixFiles : public Files {
   /// files would be too few. 0 where there is no such directory, which takes one system call to find out, or where a
   /// run could not take it over.
   static std::uint64_t bytesInLeftDirectory(const std::string& volumePath, const std::string& directoryPath);
+
+ private:
+  const FillerMoments moments_;
 };
 
 }  // namespace calvero

@@ -23,8 +23,9 @@ const char* lastPart(const std::string& path) {
   return path.c_str() + (path.rfind('/') + 1);
 }
 
+constexpr mode_t kOwnerOnly = S_IRUSR | S_IWUSR;
+
 int openIn(const OpenFolder& folder, const char* name, int flags) {
-  constexpr mode_t kOwnerOnly = S_IRUSR | S_IWUSR;
   return retryInterrupted([&] { return ::openat(folder.get(), name, flags | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly); });
 }
 
@@ -42,8 +43,9 @@ const char* whyNoFillerFile(const FileIdentity& found, const FileIdentity& direc
 
 }  // namespace
 
-PosixFillerDirectory::PosixFillerDirectory(FillerPlace place, OpenFolder directory)
+PosixFillerDirectory::PosixFillerDirectory(FillerPlace place, OpenFolder directory, FillerMoments moments)
     : place_(std::move(place)),
+      moments_(std::move(moments)),
       watch_(std::make_shared<VolumeWatch>(place_.volumePath(), place_.device())),
       directory_(std::move(directory)) {}
 
@@ -55,6 +57,8 @@ Error PosixFillerDirectory::createEmptyFile(const std::string& path) {
     if (closed_) return {ErrorCode::closed, "openat", path, "the run is over"};
     const int descriptor = openIn(directory_, name, O_CREAT | O_EXCL | O_WRONLY);
     if (descriptor >= 0) {
+      // The caller's umask may have taken even the owner's rights. Where modes cannot be set it could not.
+      ::fchmod(descriptor, kOwnerOnly);
       ::close(descriptor);
       return {};
     }
@@ -84,6 +88,7 @@ std::unique_ptr<FillerFile> PosixFillerDirectory::openForWriting(const std::stri
   const char* reason = found ? whyNoFillerFile(*found, directory_.identity) : nullptr;
   Descriptor descriptor;
   if (found && reason == nullptr) {
+    pass(moments_.fileSeen);
     descriptor = Descriptor(openIn(directory_, name, O_WRONLY | O_NONBLOCK));
     found = descriptor.isOpen() ? identityOf(descriptor.get()) : std::nullopt;
     reason = found ? whyNoFillerFile(*found, directory_.identity) : nullptr;
@@ -100,28 +105,52 @@ Error PosixFillerDirectory::removeItem(const std::string& path) {
 
   // A second descriptor, for reading, and not the one that wrote: closing the latter makes XFS give back what it
   // reserved behind the end of the file, while any open descriptor keeps the file's own blocks. O_PATH would not do:
-  // a FUSE file system keeps a file without a name only for those who really opened it. A file that cannot be opened
-  // holds its space by its name, until the directory is removed.
+  // a FUSE file system keeps a file without a name only for those who really opened it. A file that cannot be opened,
+  // or only with a descriptor that the run needs, holds its space by its name until the clean-up.
   const bool takesSpace = found->isRegularFile() && (found->allocatedBytes != 0 || found->sizeBytes != 0);
   Descriptor file;
   if (takesSpace && !closed_) {
     file = Descriptor(openIn(directory_, name, O_RDONLY | O_NONBLOCK));
-    if (!file.isOpen() && errorCodeOf(errno) != ErrorCode::noHandles) return posixError("openat", path, errno);
-    if (file.isOpen() && isSpareDescriptor(file.get())) file = Descriptor();
+    const Error error = file.isOpen() ? Error{} : posixError("openat", path, errno);
+    if (error.failed() || isSpareDescriptor(file.get())) {
+      heldNames_.note(name, *found);
+      return error.code == ErrorCode::noHandles ? Error{} : error;
+    }
   }
 
   if (unlinkIn(directory_, name) != 0) return posixError("unlinkat", path, errno);
-  if (file.isOpen()) {
-    held_.keep(std::move(file));
-  } else if (takesSpace && !closed_) {
-    bytesNotKept_ += found->allocatedBytes;
-  }
+  heldNames_.forget(name);
+  if (file.isOpen()) held_.keep(std::move(file));
   return {};
+}
+
+void PosixFillerDirectory::releaseSpace() {
+  held_.release(cleanUpSteps_);
+  releaseNames();
+}
+
+void PosixFillerDirectory::releaseNames() {
+  for (const auto& [name, noted] : heldNames_.takeAll()) {
+    if (stillHolds(name, noted)) {
+      unlinkIn(directory_, name.c_str());  // a failure is told by the removal of the directory
+    } else {
+      bytesNotKept_ += noted.allocatedBytes;
+    }
+    ++cleanUpSteps_;
+  }
+}
+
+bool PosixFillerDirectory::stillHolds(const std::string& name, const FileIdentity& noted) const {
+  const auto found = identityAt(directory_.get(), name.c_str());
+  if (!found || !found->isRegularFile() || found->sizeBytes < noted.sizeBytes) return false;
+  // Where files have no owners they have no lasting inode numbers either.
+  return place_.showsNoOwners() || found->isSameFile(noted);
 }
 
 Error PosixFillerDirectory::remove() {
   closed_ = true;
   held_.releaseForGood(cleanUpSteps_);
+  releaseNames();
   const std::lock_guard lock(removalMutex_);
   Error error;
   for (int attempt = 0; attempt < kRemoveAttempts; ++attempt) {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <mutex>
 
+#include "platform/linux/filler_moments.h"
 #include "platform/linux/filler_place.h"
 #include "platform/linux/held_files.h"
 #include "platform/linux/open_folder.h"
@@ -15,7 +16,7 @@ namespace calvero {
 class PosixFillerDirectory : public FillerDirectory {
  public:
   /// `directory` is the locked and empty filler directory of `place`.
-  PosixFillerDirectory(FillerPlace place, OpenFolder directory);
+  PosixFillerDirectory(FillerPlace place, OpenFolder directory, FillerMoments moments = {});
 
   Error createEmptyFile(const std::string& path) override;
   bool exists(const std::string& path) override;
@@ -23,14 +24,17 @@ class PosixFillerDirectory : public FillerDirectory {
   std::unique_ptr<FillerFile> openForWriting(const std::string& path, Error& error) override;
   Error removeItem(const std::string& path) override;
   std::uint64_t bytesNotKept() const override { return bytesNotKept_; }
-  void releaseSpace() override { held_.release(cleanUpSteps_); }
+  void releaseSpace() override;
   std::uint64_t cleanUpSteps() const override { return cleanUpSteps_; }
   Error remove() override;
 
  private:
   Error removeName();  // under removalMutex_
+  void releaseNames();
+  [[nodiscard]] bool stillHolds(const std::string& name, const FileIdentity& noted) const;
 
   FillerPlace place_;
+  const FillerMoments moments_;
   const std::shared_ptr<VolumeWatch> watch_;  // shared with the open files
   OpenFolder directory_;                      // closing it drops the lock
   std::atomic<bool> closed_{false};
@@ -41,6 +45,7 @@ class PosixFillerDirectory : public FillerDirectory {
   std::mutex removalMutex_;
   bool nameRemoved_ = false;
   HeldFiles held_;
+  HeldNames heldNames_;
 };
 
 }  // namespace calvero

@@ -284,6 +284,10 @@
         <translation>تعذّر مسح جزء من المساحة الفارغة في %1. قد تظل البيانات المحذوفة قابلة للقراءة هناك.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>تم مسح المساحة الفارغة، لكن تعذّرت إزالة «%1». غيّر الأذونات وأزله، أو امسح محرك الأقراص مرة أخرى.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>فُصل محرك الأقراص %1 أو تعطّل. قد تظل البيانات المحذوفة قابلة للقراءة عليه.</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>يحتوي محرك الأقراص هذا على مجلد «%1» لم ينشئه Calvero. أعد تسميته أو أزله، ثم حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>يحتوي محرك الأقراص هذا على مجلد «%1» تركته عملية سابقة وهو مقفل. ألغِ قفله أو أزله، ثم حاول مرة أخرى.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ auf: %@</translation>
         <translation>Ein Teil des freien Speicherplatzes von %1 konnte nicht gelöscht werden. Zuvor gelöschte Daten sind dort möglicherweise noch lesbar.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>Der freie Speicherplatz wurde gelöscht, aber „%1“ konnte nicht entfernt werden. Ändern Sie die Berechtigungen und entfernen Sie ihn, oder löschen Sie das Laufwerk noch einmal.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Das Laufwerk %1 wurde entfernt oder ist ausgefallen. Zuvor gelöschte Daten sind darauf möglicherweise noch lesbar.</translation>
     </message>
@@ -326,6 +330,10 @@ auf: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Dieses Laufwerk enthält einen Ordner „%1“, der nicht von Calvero angelegt wurde. Benennen Sie ihn um oder entfernen Sie ihn und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Dieses Laufwerk enthält einen Ordner „%1“, den ein früherer Vorgang zurückgelassen hat und der gesperrt ist. Entsperren oder entfernen Sie ihn und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@
         <translation>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>The drive %1 was removed or has failed. Deleted data may still be readable on it.</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ en: %@</translation>
         <translation>No se ha podido borrar una parte del espacio libre de %1. Es posible que allí aún se puedan leer datos eliminados.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>Se ha borrado el espacio libre, pero no se ha podido eliminar «%1». Cambie los permisos y elimine la carpeta, o vuelva a borrar la unidad.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>La unidad %1 se ha retirado o ha fallado. Es posible que en ella aún se puedan leer datos eliminados.</translation>
     </message>
@@ -326,6 +330,10 @@ en: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Esta unidad contiene una carpeta «%1» que no ha creado Calvero. Cámbiele el nombre o elimínela e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Esta unidad contiene una carpeta «%1» que dejó un proceso anterior y que está bloqueada. Desbloquéela o elimínela e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ sur : %@</translation>
         <translation>Une partie de l’espace libre de %1 n’a pas pu être effacée. Des données supprimées peuvent encore y être lisibles.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>L’espace libre a été effacé, mais « %1 » n’a pas pu être supprimé. Modifiez les autorisations et supprimez-le, ou effacez de nouveau le lecteur.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Le lecteur %1 a été retiré ou est tombé en panne. Des données supprimées peuvent encore y être lisibles.</translation>
     </message>
@@ -326,6 +330,10 @@ sur : %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Ce lecteur contient un dossier « %1 » qui n’a pas été créé par Calvero. Renommez-le ou supprimez-le, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Ce lecteur contient un dossier « %1 », laissé par une opération précédente et verrouillé. Déverrouillez-le ou supprimez-le, puis réessayez.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ su: %@</translation>
         <translation>Non è stato possibile cancellare una parte dello spazio libero di %1. I dati eliminati potrebbero essere ancora leggibili in quella parte.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>Lo spazio libero è stato cancellato, ma non è stato possibile rimuovere «%1». Cambia le autorizzazioni e rimuovi la cartella, oppure cancella di nuovo l’unità.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>L’unità %1 è stata rimossa o si è guastata. I dati eliminati potrebbero essere ancora leggibili sull’unità.</translation>
     </message>
@@ -326,6 +330,10 @@ su: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Questa unità contiene una cartella «%1» che non è stata creata da Calvero. Rinominala o rimuovila, poi riprova.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Questa unità contiene una cartella «%1» lasciata da un’operazione precedente e bloccata. Sbloccala o rimuovila, poi riprova.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

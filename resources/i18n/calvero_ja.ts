@@ -284,6 +284,10 @@
         <translation>%1 の空き領域の一部を消去できませんでした。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>空き領域は消去しましたが、「%1」を削除できませんでした。アクセス権を変更して削除するか、ドライブをもう一度消去してください。</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>ドライブ %1 が取り外されたか、故障しました。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>このドライブには、Calvero が作成したものではないフォルダー「%1」があります。名前を変更するか削除してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>このドライブには、以前の処理が残した、ロックされたフォルダー「%1」があります。ロックを解除するか削除してから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

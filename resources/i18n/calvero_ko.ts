@@ -284,6 +284,10 @@
         <translation>%1의 여유 공간 일부를 지우지 못했습니다. 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>여유 공간은 지웠지만 ‘%1’을(를) 제거하지 못했습니다. 권한을 바꾸어 제거하거나 드라이브를 다시 지우세요.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>드라이브 %1이(가) 제거되었거나 고장 났습니다. 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>이 드라이브에는 Calvero에서 만들지 않은 ‘%1’ 폴더가 있습니다. 폴더의 이름을 바꾸거나 제거한 다음 다시 시도하세요.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>이 드라이브에는 이전 작업이 남긴 잠긴 ‘%1’ 폴더가 있습니다. 잠금을 풀거나 제거한 다음 다시 시도하세요.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ op: %@</translation>
         <translation>Een deel van de vrije ruimte van %1 kon niet worden gewist. Verwijderde gegevens zijn daar mogelijk nog leesbaar.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>De vrije ruimte is gewist, maar ‘%1’ kon niet worden verwijderd. Wijzig de rechten en verwijder de map, of wis de schijf opnieuw.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>De schijf %1 is losgekoppeld of defect geraakt. Verwijderde gegevens zijn daarop mogelijk nog leesbaar.</translation>
     </message>
@@ -326,6 +330,10 @@ op: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Deze schijf bevat een map ‘%1’ die niet door Calvero is gemaakt. Hernoem of verwijder deze map en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Deze schijf bevat een map ‘%1’ die een eerdere uitvoering heeft achtergelaten en die vergrendeld is. Ontgrendel of verwijder deze map en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ na dysku: %@</translation>
         <translation>Nie udało się wymazać części wolnego miejsca na dysku %1. Usunięte dane mogą tam być nadal możliwe do odczytania.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>Wolne miejsce zostało wymazane, ale nie udało się usunąć folderu „%1”. Zmień uprawnienia i usuń go albo wymaż dysk ponownie.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Dysk %1 został odłączony lub uległ awarii. Usunięte dane mogą być na nim nadal możliwe do odczytania.</translation>
     </message>
@@ -326,6 +330,10 @@ na dysku: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Na tym dysku znajduje się folder „%1”, który nie został utworzony przez program Calvero. Zmień jego nazwę lub usuń go i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Na tym dysku znajduje się folder „%1”, pozostawiony przez wcześniejszą operację i zablokowany. Odblokuj go lub usuń i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ em: %@</translation>
         <translation>Não foi possível apagar uma parte do espaço livre de %1. Talvez ainda seja possível ler dados excluídos nela.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>O espaço livre foi apagado, mas não foi possível remover “%1”. Altere as permissões e remova a pasta, ou apague a unidade novamente.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>A unidade %1 foi removida ou falhou. Talvez ainda seja possível ler dados excluídos nela.</translation>
     </message>
@@ -326,6 +330,10 @@ em: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Esta unidade contém uma pasta “%1” que não foi criada pelo Calvero. Renomeie ou remova essa pasta e tente novamente.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Esta unidade contém uma pasta “%1” que foi deixada por uma operação anterior e que está bloqueada. Desbloqueie ou remova essa pasta e tente novamente.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

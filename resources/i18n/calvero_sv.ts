@@ -284,6 +284,10 @@ på: %@</translation>
         <translation>En del av det lediga utrymmet på %1 kunde inte raderas. Borttagna data kan fortfarande vara läsbara där.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>Det lediga utrymmet har raderats, men ”%1” kunde inte tas bort. Ändra behörigheterna och ta bort mappen, eller radera enheten en gång till.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Enheten %1 har kopplats från eller slutat fungera. Borttagna data kan fortfarande vara läsbara på den.</translation>
     </message>
@@ -326,6 +330,10 @@ på: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Enheten innehåller en mapp ”%1” som inte har skapats av Calvero. Byt namn på den eller ta bort den och försök sedan igen.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Enheten innehåller en mapp ”%1” som en tidigare körning har lämnat kvar och som är låst. Lås upp den eller ta bort den och försök sedan igen.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@ Sürücü: %@</translation>
         <translation>%1 sürücüsündeki boş alanın bir bölümü silinemedi. Daha önce silinmiş veriler orada hâlâ okunabilir olabilir.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>Boş alan silindi, ancak “%1” kaldırılamadı. İzinleri değiştirip klasörü kaldırın veya sürücüyü yeniden silin.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>%1 sürücüsü çıkarıldı veya arızalandı. Daha önce silinmiş veriler sürücüde hâlâ okunabilir olabilir.</translation>
     </message>
@@ -326,6 +330,10 @@ Sürücü: %@</translation>
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Bu sürücüde Calvero tarafından oluşturulmamış bir “%1” klasörü var. Klasörü yeniden adlandırın veya kaldırın, ardından yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Bu sürücüde önceki bir işlemden kalmış ve kilitli olan bir “%1” klasörü var. Klasörün kilidini açın veya klasörü kaldırın, ardından yeniden deneyin.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -284,6 +284,10 @@
         <translation>Не вдалося стерти частину вільного місця на диску %1. Можливо, видалені дані там усе ще можна прочитати.</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>Вільне місце стерто, але не вдалося вилучити «%1». Змініть права доступу й вилучіть папку або зітріть диск ще раз.</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Диск %1 від’єднано або він вийшов з ладу. Можливо, видалені дані на ньому все ще можна прочитати.</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Цей диск містить папку «%1», яку створила не програма Calvero. Перейменуйте або вилучіть її, а потім спробуйте ще раз.</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>Цей диск містить папку «%1», яку залишила попередня операція і яку заблоковано. Розблокуйте або вилучіть її, а потім спробуйте ще раз.</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

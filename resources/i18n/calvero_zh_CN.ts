@@ -284,6 +284,10 @@
         <translation>%1 的部分可用空间未能擦除。其中已删除的数据可能仍可读取。</translation>
     </message>
     <message>
+        <source>The free space has been erased, but &quot;%1&quot; could not be removed. Change the permissions and remove it, or erase the drive again.</source>
+        <translation>可用空间已擦除，但“%1”未能移除。请更改权限并将其移除，或再次擦除该驱动器。</translation>
+    </message>
+    <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>驱动器 %1 已被移除或发生故障。其中已删除的数据可能仍可读取。</translation>
     </message>
@@ -326,6 +330,10 @@
     <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>此驱动器上有一个并非由 Calvero 创建的文件夹“%1”。请将其重命名或移除，然后重试。</translation>
+    </message>
+    <message>
+        <source>This drive holds a folder &quot;%1&quot; that an earlier run left and that is locked. Unlock or remove it, then try again.</source>
+        <translation>此驱动器上有一个先前操作留下的、已锁定的文件夹“%1”。请将其解锁或移除，然后重试。</translation>
     </message>
     <message>
         <source>Continues to the erase methods.</source>

@@ -39,6 +39,10 @@ class FilesWorld {
   /// Nothing is found under the volume's path any more, though what was open before stays so.
   virtual void takeVolumeAway() = 0;
 
+  /// From now on no file can be opened beyond those that the run needs at one time.
+  virtual void limitOpenFiles() = 0;
+  virtual void removeFromOutside(const std::string& path) = 0;
+
   virtual bool directoryExists(const std::string& path) = 0;
   /// Size of a regular file; nothing when there is none of that name.
   virtual std::optional<std::uint64_t> bytesOf(const std::string& path) = 0;
@@ -306,6 +310,51 @@ TEST_P(FilesContract, RemovesAFilesNameOnce) {
   EXPECT_FALSE(world_->bytesOf(pathOf(".temp0")).has_value());
   EXPECT_EQ(directory->removeItem(pathOf(".temp0")).code, ErrorCode::notFound);
   EXPECT_EQ(directory->bytesNotKept(), 0U);
+}
+
+TEST_P(FilesContract, LeavesAFilesNameUntilTheReleaseWhereTheLimitOfOpenFilesLetsNothingElseHoldItsSpace) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr);
+  world_->limitOpenFiles();
+  write(*directory, ".temp0");
+  ASSERT_FALSE(directory->createEmptyFile(pathOf(".temp1")).failed());
+  EXPECT_FALSE(directory->removeItem(pathOf(".temp0")).failed());
+  EXPECT_FALSE(directory->removeItem(pathOf(".temp1")).failed());
+  EXPECT_EQ(world_->bytesOf(pathOf(".temp0")), kData.size());
+  EXPECT_FALSE(directory->exists(pathOf(".temp1"))) << "it holds nothing";
+  directory->releaseSpace();
+  EXPECT_FALSE(directory->exists(pathOf(".temp0")));
+  EXPECT_EQ(directory->bytesNotKept(), 0U);
+}
+
+TEST_P(FilesContract, RemovesTheNamesThatHoldSpaceWithTheDirectory) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr);
+  world_->limitOpenFiles();
+  write(*directory, ".temp0");
+  ASSERT_FALSE(directory->removeItem(pathOf(".temp0")).failed());
+  EXPECT_FALSE(directory->remove().failed());
+  EXPECT_FALSE(world_->directoryExists(directory_));
+  EXPECT_EQ(directory->bytesNotKept(), 0U);
+}
+
+TEST_P(FilesContract, TellsTheSpaceOfANameThatAnotherProgramHasRemoved) {
+  const auto directory = create();
+  ASSERT_NE(directory, nullptr);
+  world_->limitOpenFiles();
+  for (const char* name : {".temp0", ".temp1", ".temp2"}) {
+    write(*directory, name);
+    ASSERT_FALSE(directory->removeItem(pathOf(name)).failed());
+  }
+  world_->removeFromOutside(pathOf(".temp0"));
+  world_->removeFromOutside(pathOf(".temp1"));
+  world_->plantFile(pathOf(".temp1"), kData.size());
+  EXPECT_EQ(directory->bytesNotKept(), 0U) << "nobody has looked yet";
+  directory->releaseSpace();
+  EXPECT_EQ(directory->bytesNotKept(), 2 * kData.size());
+  directory->releaseSpace();
+  EXPECT_FALSE(directory->remove().failed());
+  EXPECT_EQ(directory->bytesNotKept(), 2 * kData.size()) << "each is counted once";
 }
 
 }  // namespace calvero::testing

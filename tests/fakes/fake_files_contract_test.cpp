@@ -34,6 +34,9 @@ class FakeFilesWorld : public FilesWorld {
   }
   void takeVolumeAway() override { files_.volume(kVolume).mounted = false; }
 
+  void limitOpenFiles() override { files_.setHandleLimit(0); }
+  void removeFromOutside(const std::string& path) override { files_.removeFromOutside(parentOf(path), nameOf(path)); }
+
   bool directoryExists(const std::string& path) override { return files_.directoryExists(path); }
   std::optional<std::uint64_t> bytesOf(const std::string& path) override {
     if (!files_.directoryExists(parentOf(path))) return std::nullopt;

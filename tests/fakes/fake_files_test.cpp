@@ -46,13 +46,14 @@ TEST_F(FakeFilesDisk, KeepsTheSpaceOfARemovedFileUntilItIsReleased) {
   EXPECT_EQ(disk->takenBlocks(), 0U);
 }
 
-TEST_F(FakeFilesDisk, HandsTheBlocksOfAFileThatItCouldNotKeepToTheNextOne) {
+TEST_F(FakeFilesDisk, KeepsTheSpaceOfAFileForWhichItHasNoHandle) {
   files.setHandleLimit(0);
   write("a", 6);
   EXPECT_FALSE(directory->removeItem("/v/d/a").failed());
-  EXPECT_EQ(directory->bytesNotKept(), 6U * 4096U);
-  write("b", 6);
-  EXPECT_EQ(disk->coveredBlocks(), 6U);
+  EXPECT_EQ(write("b", 6).bytes, 4 * 4096);
+  EXPECT_EQ(disk->coveredBlocks(), 10U);
+  directory->releaseSpace();
+  EXPECT_EQ(disk->takenBlocks(), 4U);
 }
 
 TEST_F(FakeFilesDisk, GivesEverythingBackWithTheDirectory) {

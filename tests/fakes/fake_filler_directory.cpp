@@ -89,13 +89,13 @@ Error FakeFillerDirectory::removeItem(const std::string& path) {
   if (mediumFault() != ErrorCode::none) return fakeError(mediumFault(), "unlinkat", path);
   const auto found = directory_->entries.find(lastPart(path));
   if (found == directory_->entries.end()) return fakeError(ErrorCode::notFound, "unlinkat", path);
-  if (found->second.kind == FakeEntryKind::regularFile && !closed_) {
-    if (kept_.size() < files_.handleLimit_) {
-      kept_.push_back(found->second.body);
-    } else {
-      bytesNotKept_ += found->second.body->bytes;
-    }
+  const bool takesSpace = found->second.kind == FakeEntryKind::regularFile && found->second.body->bytes != 0;
+  if (takesSpace && !closed_ && kept_.size() >= files_.handleLimit_) {
+    keptByName_[found->first] = found->second.body;
+    return {};
   }
+  keptByName_.erase(found->first);
+  if (takesSpace && !closed_) kept_.push_back(found->second.body);
   --found->second.body->names;
   directory_->entries.erase(found);
   return {};
@@ -112,6 +112,20 @@ void FakeFillerDirectory::releaseSpace() {
   const std::scoped_lock lock(files_.mutex_);
   cleanUpSteps_ += kept_.size();
   kept_.clear();
+  releaseNames();
+}
+
+void FakeFillerDirectory::releaseNames() {
+  cleanUpSteps_ += keptByName_.size();
+  for (const auto& [name, body] : std::exchange(keptByName_, {})) {
+    const auto found = directory_->entries.find(name);
+    if (found == directory_->entries.end() || found->second.body != body) {
+      bytesNotKept_ += body->bytes;
+    } else {
+      --body->names;
+      directory_->entries.erase(found);
+    }
+  }
 }
 
 Error FakeFillerDirectory::remove() {
@@ -121,6 +135,7 @@ Error FakeFillerDirectory::remove() {
   closed_ = true;
   const ErrorCode code = scripted != ErrorCode::none ? scripted : mediumFault();
   if (code != ErrorCode::none) return fakeError(code, "unlinkat", directory_->path);
+  releaseNames();
   cleanUpSteps_ += directory_->entries.size();
   for (auto& [name, entry] : directory_->entries) {
     if (entry.body) --entry.body->names;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,10 +33,12 @@ class FakeFillerDirectory : public FillerDirectory {
 
  private:
   [[nodiscard]] ErrorCode mediumFault() const;
+  void releaseNames();  // under the lock of the files
 
   FakeFiles& files_;
   std::shared_ptr<FakeDirectory> directory_;
-  std::vector<std::shared_ptr<FakeFileBody>> kept_;  // removed files whose space stays taken
+  std::vector<std::shared_ptr<FakeFileBody>> kept_;                  // removed files whose space stays taken
+  std::map<std::string, std::shared_ptr<FakeFileBody>> keptByName_;  // written files that stay for want of handles
   std::uint64_t bytesNotKept_ = 0;
   bool closed_ = false;
   std::atomic<std::uint64_t> cleanUpSteps_{0};

@@ -1,10 +1,13 @@
 import json
+import os
 
-from case import SystemTest
+from case import SystemTest, isWriting
 from testkit import program
+from testkit.volume import EXT4_RESERVE_BYTES
 
 # Beside the descriptors that a run keeps spare this leaves room for a few files only.
 HARD_LIMIT = 44
+LESS_THAN_IS_SPARED = 30
 
 
 class OpenFileLimit(SystemTest):
@@ -16,12 +19,25 @@ class OpenFileLimit(SystemTest):
         self.assertNothingLeft(target)
         return ended
 
-    def testARunThatCannotHoldAllItsFilesSaysHowMuchAndFinishes(self):
+    def testARunThatCannotOpenAllItsFilesHoldsTheOthersByTheirNames(self):
         target = self.makeVolume("ext4", 1200)
         freeBefore = target.freeBytes()
         ended = self.wipeWithLimit(target, HARD_LIMIT, HARD_LIMIT)
-        self.assertOneLine(ended.stderr, "could not be held", "limit of open files")
+        self.assertEqual(ended.stderr, "")
+        covered = json.loads(ended.stdout)["bytesCovered"]
+        self.assertGreater(covered, 0.99 * (freeBefore - EXT4_RESERVE_BYTES))
+        self.assertLessEqual(covered, freeBefore)
         self.assertFreeAgain(target, freeBefore)
+
+    def testSpaceThatAnotherProgramGaveBackIsNotCalledErased(self):
+        target = self.makeVolume("ext4", 400)
+        process = self.startCommand(["prlimit", f"--nofile={LESS_THAN_IS_SPARED}:{LESS_THAN_IS_SPARED}",
+                                     self.programFor(False), "wipe", target.path, "--yes", "--json"])
+        program.waitUntil(lambda: isWriting(target, 1), "the second filler file being written")
+        os.unlink(os.path.join(target.fillerDirectory(), ".temp0"))
+        _, _, errors = self.finish(process)
+        self.assertIn("128.00 MB were not held until the end of the run", errors)
+        self.assertNothingLeft(target)
 
     def testALowSoftLimitKeepsNothingFromBeingHeld(self):
         target = self.makeVolume("ext4", 1200)

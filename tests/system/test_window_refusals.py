@@ -2,6 +2,7 @@
 
 import os
 import signal
+import subprocess
 
 from case import everything, isWriting
 from testkit import program
@@ -71,6 +72,18 @@ class Refusals(WindowTest):
         self.assertOnFirstPage(window)
         self.checkAnotherCanBeChosen(window, other)
         self.assertEqual(everything(target.path), before)
+
+    def testALeftFolderThatMayNotBeChangedIsNamed(self):
+        target, other = self.makeVolume("ext4", 16), self.makeVolume("ext4", 16)
+        os.mkdir(target.fillerDirectory())
+        subprocess.run(["chattr", "+i", target.fillerDirectory()], check=True)
+        self.addCleanup(subprocess.run, ["chattr", "-i", target.fillerDirectory()])
+        window = self.startWindow()
+        self.choose(window, target)
+        window.pressButton("Next")
+        self.assertRefusal(window, target.fillerDirectory(), "an earlier run left", "locked")
+        self.assertOnFirstPage(window)
+        self.checkAnotherCanBeChosen(window, other)
 
     def testAVolumeThatWasUnmountedIsRefused(self):
         target, other = self.makeVolume("ext4", 16), self.makeVolume("ext4", 16)

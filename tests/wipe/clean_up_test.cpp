@@ -8,6 +8,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using testing::FileCall;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using testing::Steps;
 using testing::World;
@@ -29,6 +30,14 @@ class CleanUp : public ::testing::Test {
   void afterStart() {
     run = world.app().currentRun();
     world.app().createFile(*run);
+    world.journal.clear();
+  }
+  /// Another program removes a written file that is held by its name.
+  void loseAHeldName() {
+    world.files.setHandleLimit(0);
+    world.app().fillFilePath(*run, run->filePathsArray[0], 2'000'000);
+    world.app().deleteByFiles(*run, 0);
+    world.files.removeFromOutside(World::kDirectory, ".temp0");
     world.journal.clear();
   }
   /// The volume is found by its name, but nothing exists at its mount path.
@@ -127,6 +136,48 @@ TEST_F(CleanUp, OnlyAbortsWhenTheVolumeVanishesBetweenTheTwoLooks) {
   EXPECT_THAT(world.journal.only({"removeDirectory", "setText"}), IsEmpty());
 }
 
+TEST_F(CleanUp, GivesBackTheSpaceOfAVolumeThatIsOutOfSight) {
+  layOut();
+  world.app().fillFilePath(*run, run->filePathsArray[0], 2'000'000);
+  world.app().deleteByFiles(*run, 0);
+  makeMountPathVanish();
+  ASSERT_NE(world.files.volume("/media/DATA").disk.takenBlocks(), 0U);
+  world.app().deleteFiles(*run);
+  EXPECT_EQ(world.files.volume("/media/DATA").disk.takenBlocks(), 0U);
+}
+
+TEST_F(CleanUp, MakesAFinishedRunFlawedWhoseDirectoryCannotBeRemoved) {
+  for (const ErrorCode code : {ErrorCode::notPermitted, ErrorCode::other, ErrorCode::notOurs}) {
+    World other;
+    other.volume("DATA", 1'000'000);
+    const RunPtr flawed = other.start().currentRun();
+    other.files.script.failAt(FileCall::removeDirectory, 1, code);
+    other.runWorker();
+    EXPECT_EQ(flawed->outcome, RunOutcome::finished);
+    EXPECT_EQ(flawed->faults(), 1U);
+    EXPECT_EQ(flawed->firstFault().path, World::kDirectory);
+    EXPECT_EQ(flawed->remains().code, code);
+    EXPECT_TRUE(flawed->isFlawedByRemainsOnly());
+    EXPECT_THAT(other.journal.only({"log 1 failures"}), IsEmpty()) << "no deleted data remains readable for it";
+  }
+}
+
+TEST_F(CleanUp, TellsWhatACancelCouldNotRemoveUnlessTheWorkerDoesWhenItEnds) {
+  for (const bool isProtected : {false, true}) {
+    World other;
+    other.volume("DATA", 1'000'000);
+    const RunPtr cancelled = other.start().currentRun();
+    auto& script = other.files.script;
+    script.failAt(FileCall::removeDirectory, 1, ErrorCode::notPermitted);
+    if (isProtected) script.failFrom(FileCall::removeDirectory, 2, ErrorCode::notPermitted);
+    script.before(FileCall::pwrite, 3, [&] { other.app().cancelWipe(); });
+    other.runWorker();
+    EXPECT_EQ(cancelled->outcome, RunOutcome::cancelled);
+    EXPECT_EQ(cancelled->remains().failed(), isProtected);
+    EXPECT_EQ(cancelled->faults(), 0U);
+  }
+}
+
 TEST_F(CleanUp, IgnoresADirectoryThatCannotBeRemoved) {
   layOut();
   world.files.script.failAt(FileCall::removeDirectory, 1, ErrorCode::notPermitted);
@@ -217,24 +268,18 @@ TEST_F(CleanUp, RemovesWhatAnInterruptedRunLeftWhenThereIsNoRun) {
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
 }
 
-TEST_F(CleanUp, TellsHowMuchSpaceCouldNotBeHeld) {
-  world.files.setHandleLimit(0);
+TEST_F(CleanUp, TellsHowMuchSpaceWasLostWithTheNamesThatHeldIt) {
   layOut();
-  world.app().fillFilePath(*run, run->filePathsArray[0], 2'000'000);
-  world.app().deleteByFiles(*run, 0);
-  world.journal.clear();
+  loseAHeldName();
   world.app().deleteFiles(*run);
   const Steps notices = world.journal.only({"notice"});
   ASSERT_EQ(notices.size(), 1U);
-  EXPECT_NE(notices[0].find("2.00 MB"), std::string::npos) << notices[0];
+  EXPECT_THAT(notices[0], HasSubstr("2.00 MB were not held until the end of the run"));
 }
 
-TEST_F(CleanUp, TellsOnlyOnceHowMuchSpaceCouldNotBeHeldThoughACancelAndTheWorkerBothCleanUp) {
-  world.files.setHandleLimit(0);
+TEST_F(CleanUp, TellsOnlyOnceHowMuchSpaceWasLostThoughACancelAndTheWorkerBothCleanUp) {
   layOut();
-  world.app().fillFilePath(*run, run->filePathsArray[0], 2'000'000);
-  world.app().deleteByFiles(*run, 0);
-  world.journal.clear();
+  loseAHeldName();
   world.app().cancelWipe();
   world.app().deleteFiles(*run);
   EXPECT_EQ(world.journal.only({"notice"}).size(), 1U);

@@ -36,6 +36,10 @@ std::optional<std::string> refusalText(const Localisation& texts, const Error& e
       return filledIn(texts.localised("This drive holds a folder \"%1\" that was not made by Calvero. Rename or remove "
                                       "it, then try again."),
                       kFillerDirectoryName);
+    case ErrorCode::locked:
+      return filledIn(texts.localised("This drive holds a folder \"%1\" that an earlier run left and that is locked. "
+                                      "Unlock or remove it, then try again."),
+                      error.path);
     case ErrorCode::gone:
       return texts.localised("This drive does not respond. Check its connection, then press \"Reload Drives\".");
     case ErrorCode::exists:
@@ -72,6 +76,12 @@ std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFl
                     volume);
   }
   return filledIn(texts.localised("The free space of %1 has been erased."), volume);
+}
+
+std::string remainsText(const Localisation& texts, const Error& remains) {
+  return filledIn(texts.localised("The free space has been erased, but \"%1\" could not be removed. Change the "
+                                  "permissions and remove it, or erase the drive again."),
+                  remains.path);
 }
 
 }  // namespace calvero

@@ -23,4 +23,7 @@ std::string untrustedProgramText(const Localisation& texts, const std::string& p
 /// could not be covered.
 std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume);
 
+/// How a run has ended whose one flaw is what it could not remove.
+std::string remainsText(const Localisation& texts, const Error& remains);
+
 }  // namespace calvero

@@ -129,7 +129,9 @@ class WipeCommand {
     const bool isMounted = report_.exitCode != ExitCode::failed || app_.getVolumePath(report_.volume).has_value();
     const std::string failure = failureLine(report_, isMounted);
     if (!failure.empty()) printError(failure);
-    if (report_.exitCode == ExitCode::cancelled) printError(closingLine(report_));
+    const bool isCancelled = report_.outcome == RunOutcome::cancelled || report_.exitCode == ExitCode::cancelled;
+    if (isCancelled) printError(closingLine(report_));
+    if (const std::string remains = remainsLine(report_); !remains.empty()) printError(remains);
     if (report_.exitCode == ExitCode::refused) printError(refusalLine(report_, report_.refusal));
     if (report_.outcome == RunOutcome::finished && !request_.json) Output(STDOUT_FILENO).line(closingLine(report_));
     printJson();

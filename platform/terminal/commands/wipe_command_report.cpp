@@ -5,6 +5,7 @@
 #include "platform/linux/administrator.h"
 #include "platform/terminal/json_text.h"
 #include "platform/terminal/text.h"
+#include "wipe/lost_volume.h"
 
 namespace calvero {
 namespace {
@@ -40,10 +41,14 @@ std::string stepsFailed(const WipeReport& report) {
          ", the first one: " + printable(report.firstFault.text());
 }
 
+bool isFlawedByRemainsOnly(const WipeReport& report) {
+  return report.outcome == RunOutcome::finished && report.remains.failed() && report.faults == 1;
+}
+
 std::string notPermitted(const std::string& volume) {
-  const std::string mayNot = " may not create files in the root folder of " + volume;
-  if (!isAdministrator()) return "You" + mayNot + "; run the program as root, for example with sudo";
-  return "Not even the administrator" + mayNot + ": its folder is locked, or its file system is another user's";
+  const std::string createFiles = " create files in the root folder of " + volume;
+  if (!isAdministrator()) return "You may not" + createFiles + "; run the program as root, for example with sudo";
+  return "Not even the administrator may" + createFiles + ": it is locked, or its file system is another user's";
 }
 
 }  // namespace
@@ -72,9 +77,11 @@ void addRun(WipeReport& report, const WipeRun* run) {
     report.faults = run->faults();
     report.firstFault = run->firstFault();
     report.refusal = run->refusal();
+    report.remains = run->remains();
     report.outcome = run->outcome;
   }
   report.exitCode = exitCodeOf(report.outcome, report.faults);
+  if (report.outcome == RunOutcome::cancelled && report.remains.failed()) report.exitCode = ExitCode::failed;
   if (report.exitCode == ExitCode::failed && report.refusal.failed()) report.exitCode = ExitCode::refused;
 }
 
@@ -107,12 +114,23 @@ std::string closingLine(const WipeReport& report) {
 }
 
 std::string failureLine(const WipeReport& report, bool isMounted) {
-  if (report.exitCode != ExitCode::failed) return "";
+  if (report.exitCode != ExitCode::failed || report.outcome == RunOutcome::cancelled) return "";
+  if (isFlawedByRemainsOnly(report)) return "";
   const std::string meaning = "; deleted data may remain readable there";
   if (report.outcome == RunOutcome::finished && report.firstFault.code != ErrorCode::readOnly) {
     return stepsFailed(report) + meaning;
   }
   return "Failed: " + causeOfFailure(report, isMounted) + meaning;
+}
+
+std::string remainsLine(const WipeReport& report) {
+  const Error& error = report.remains;
+  if (!error.failed() || meansLostVolume(error.code)) return "";
+  const std::string what = printable(error.path) + " could not be removed (" + printable(error.detail) + "); ";
+  const std::string remedy = error.code == ErrorCode::notPermitted
+                                 ? "lift what protects it or the folder above it (chattr -a -i, permissions), then "
+                                 : "";
+  return what + remedy + "remove it, or start another run, which does";
 }
 
 std::string refusalLine(const WipeReport& report, const Error& error) {
@@ -127,6 +145,9 @@ std::string refusalLine(const WipeReport& report, const Error& error) {
     case ErrorCode::notOurs:
       return printable(error.path) + " was not made by a run (" + printable(error.detail) +
              "); move it away and start again";
+    case ErrorCode::locked:
+      return printable(error.path) + ", which an earlier run left, may not be changed (" + printable(error.detail) +
+             "); unlock it, for example with chattr -i -a, or remove it, and start again";
     case ErrorCode::notFound:
       return volume + " is not mounted any more";
     default:

@@ -23,6 +23,7 @@ struct WipeReport {
   std::uint64_t faults = 0;
   Error firstFault;
   Error refusal;  ///< why the run could not make its filler directory
+  Error remains;  ///< why the filler directory is still there
   RunOutcome outcome = RunOutcome::none;
   ExitCode exitCode = ExitCode::refused;
 };
@@ -45,6 +46,10 @@ std::string closingLine(const WipeReport& report);
 /// What went wrong and what it means for the deleted data; empty for a run without a flaw. `isMounted`: whether the
 /// volume is still there.
 std::string failureLine(const WipeReport& report, bool isMounted);
+
+/// What is left on the volume, why, and what to do; empty where nothing is, or
+/// with the volume lost.
+std::string remainsLine(const WipeReport& report);
 
 /// Why the volume may not be wiped, and what to do about it.
 std::string refusalLine(const WipeReport& report, const Error& error);

@@ -1,10 +1,13 @@
 #include <fcntl.h>
+#include <linux/fs.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <array>
 
+#include "platform/linux/descriptor.h"
 #include "tests/platform/linux/posix_files_test_volume.h"
 
 namespace calvero::testing {
@@ -17,6 +20,10 @@ class FillerDirectoryClaim : public FillerVolume {
   void makeLeftDirectory(mode_t mode = S_IRWXU) const {
     fs::create_directory(directory_);
     ASSERT_EQ(::chmod(directory_.c_str(), mode), 0);
+  }
+  static bool setAttributes(const std::string& path, int attributes) {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    return ::ioctl(file.get(), FS_IOC_SETFLAGS, &attributes) == 0;
   }
   [[nodiscard]] mode_t modeOf(const std::string& path) const {
     struct stat found = {};
@@ -36,6 +43,52 @@ TEST_F(FillerDirectoryClaim, ClosesALeftDirectoryToOthers) {
   const auto directory = create();
   ASSERT_NE(directory, nullptr) << error_.text();
   EXPECT_EQ(modeOf(directory_), 0700U);
+}
+
+TEST_F(FillerDirectoryClaim, SetsTheModesWhateverTheUmaskOfTheCaller) {
+  for (const mode_t mask : {0777U, 0700U, 0U}) {
+    const mode_t before = ::umask(mask);
+    const auto directory = create();
+    const bool isMade = directory && !directory->createEmptyFile(pathOf(".temp0")).failed();
+    ::umask(before);
+    ASSERT_TRUE(isMade) << error_.text();
+    EXPECT_EQ(modeOf(directory_), 0700U);
+    EXPECT_EQ(modeOf(pathOf(".temp0")), 0600U);
+  }
+}
+
+TEST_F(FillerDirectoryClaim, TakesOverADirectoryThatItsOwnerMayNotEnter) {
+  for (const mode_t mode : {0000U, 0500U, 0077U}) {
+    makeLeftDirectory(mode);
+    ASSERT_EQ(::chown(directory_.c_str(), kAnotherUser, static_cast<gid_t>(-1)), 0);
+    ASSERT_EQ(::chmod(volume_.c_str(), 01777), 0);
+    const auto isTaken = asAnotherUser([this, mode] {
+      const bool isAccepted = !check().failed() && modeOf(directory_) == mode;
+      return isAccepted && create() != nullptr && modeOf(directory_) == 0700U;
+    });
+    if (!isTaken) GTEST_SKIP() << "needs the right to become another user";
+    EXPECT_TRUE(*isTaken);
+    fs::remove(directory_);
+  }
+}
+
+TEST_F(FillerDirectoryClaim, SaysOfALeftDirectoryThatMayNotBeChangedThatItIsLocked) {
+  makeLeftDirectory();
+  for (const int attribute : {FS_IMMUTABLE_FL, FS_APPEND_FL}) {
+    if (!setAttributes(directory_, attribute)) GTEST_SKIP() << "this file system has no such attribute";
+    EXPECT_EQ(check().code, ErrorCode::locked);
+    EXPECT_EQ(check().path, directory_);
+    EXPECT_EQ(create(), nullptr);
+    EXPECT_EQ(error_.code, ErrorCode::locked);
+    EXPECT_EQ(error_.path, directory_);
+    setAttributes(directory_, 0);
+  }
+  writeFile(pathOf(".temp0"), "old");
+  setAttributes(pathOf(".temp0"), FS_IMMUTABLE_FL);
+  EXPECT_EQ(create(), nullptr);
+  EXPECT_EQ(error_.code, ErrorCode::locked);
+  EXPECT_EQ(error_.path, pathOf(".temp0"));
+  setAttributes(pathOf(".temp0"), 0);
 }
 
 TEST_F(FillerDirectoryClaim, RefusesASymbolicLinkAndLeavesWhatItLeadsTo) {

@@ -2,9 +2,11 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include "platform/linux/posix_files.h"
 #include "tests/contracts/files_contract.h"
+#include "tests/platform/linux/scoped_open_file_limit.h"
 #include "tests/scoped_folder.h"
 
 namespace calvero::testing {
@@ -31,6 +33,9 @@ class PosixWorld : public FilesWorld {
   void rename(const std::string& directory, const std::string& path) override { fs::rename(directory, path); }
   void takeVolumeAway() override { fs::rename(volume_, folder_.path() + "/elsewhere"); }
 
+  void limitOpenFiles() override { limit_.emplace(kNeededAtOneTime); }
+  void removeFromOutside(const std::string& path) override { fs::remove(path); }
+
   bool directoryExists(const std::string& path) override { return fs::is_directory(path); }
   std::optional<std::uint64_t> bytesOf(const std::string& path) override {
     if (!fs::is_regular_file(fs::symlink_status(path))) return std::nullopt;
@@ -38,9 +43,12 @@ class PosixWorld : public FilesWorld {
   }
 
  private:
+  static constexpr std::size_t kNeededAtOneTime = 4;
+
   const ScopedFolder folder_;
   const std::string volume_ = folder_.make("volume");
   PosixFiles files_;
+  std::optional<ScopedOpenFileLimit> limit_;
 };
 
 INSTANTIATE_TEST_SUITE_P(RealDisk, FilesContract,

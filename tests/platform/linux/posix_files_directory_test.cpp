@@ -6,11 +6,12 @@
 
 #include <array>
 #include <csignal>
-#include <vector>
+#include <string>
 
-#include "platform/linux/descriptor.h"
+#include "platform/linux/file_identity.h"
 #include "platform/linux/process_limits.h"
 #include "tests/platform/linux/posix_files_test_volume.h"
+#include "tests/platform/linux/scoped_open_file_limit.h"
 
 namespace calvero::testing {
 namespace {
@@ -162,41 +163,60 @@ TEST_F(FillerDirectoryFiles, CountsTheSpaceOfALeftDirectoryThatNoRunHolds) {
   EXPECT_EQ(PosixFiles::bytesInLeftDirectory(volume_, directory_), 0U) << "it is a link";
 }
 
-/// The soft limit of open files, lowered so that only `more` further ones and `spare` others can be opened.
-class ScopedOpenFileLimit {
- public:
-  explicit ScopedOpenFileLimit(std::size_t more, rlim_t spare = 0) {
-    EXPECT_EQ(::getrlimit(RLIMIT_NOFILE, &old_), 0);
-    struct rlimit lowered = old_;
-    lowered.rlim_cur = firstBeyond(more) + spare;
-    EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &lowered), 0);
-  }
-  ScopedOpenFileLimit(const ScopedOpenFileLimit&) = delete;
-  ScopedOpenFileLimit& operator=(const ScopedOpenFileLimit&) = delete;
-  ~ScopedOpenFileLimit() { EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &old_), 0); }
-
- private:
-  /// The descriptor that would follow the next `more` ones.
-  static rlim_t firstBeyond(std::size_t more) {
-    std::vector<Descriptor> next;
-    while (next.size() <= more) next.emplace_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
-    return static_cast<rlim_t>(next.back().get());
-  }
-
-  struct rlimit old_ = {};
-};
-
-TEST_F(FillerDirectoryFiles, SaysHowMuchItCannotHoldAtTheLimitOfOpenFiles) {
+TEST_F(FillerDirectoryFiles, LeavesTheNamesOfWhatItCannotHoldAtTheLimitOfOpenFiles) {
   for (const char* name : {".temp0", ".temp1", ".temp2", ".temp3"}) fill(*run_, pathOf(name), 65536);
   {
     const ScopedOpenFileLimit limit(2, kSpareDescriptors);
-    for (const char* name : {".temp0", ".temp1"}) EXPECT_FALSE(run_->removeItem(pathOf(name)).failed());
-    EXPECT_EQ(run_->bytesNotKept(), 0U);
-    for (const char* name : {".temp2", ".temp3"}) EXPECT_FALSE(run_->removeItem(pathOf(name)).failed());
-    EXPECT_EQ(run_->bytesNotKept(), 2 * 65536U);
+    for (const char* name : {".temp0", ".temp1", ".temp2", ".temp3"}) {
+      EXPECT_FALSE(run_->removeItem(pathOf(name)).failed());
+    }
     EXPECT_FALSE(run_->createEmptyFile(pathOf(".temp4")).failed()) << "the last descriptors are not for holding";
   }
-  for (const char* name : {".temp0", ".temp1", ".temp2", ".temp3"}) EXPECT_FALSE(run_->exists(pathOf(name)));
+  for (const char* name : {".temp0", ".temp1"}) EXPECT_FALSE(run_->exists(pathOf(name)));
+  for (const char* name : {".temp2", ".temp3"}) EXPECT_TRUE(run_->exists(pathOf(name)));
+  run_->releaseSpace();
+  for (const char* name : {".temp2", ".temp3"}) EXPECT_FALSE(run_->exists(pathOf(name)));
+  EXPECT_EQ(run_->bytesNotKept(), 0U);
+}
+
+TEST_F(FillerDirectoryFiles, HoldsByADescriptorAtTheSecondAttemptWhatItHeldByItsName) {
+  fill(*run_, pathOf(".temp0"), 65536);
+  {
+    const ScopedOpenFileLimit limit(0);
+    ASSERT_FALSE(run_->removeItem(pathOf(".temp0")).failed());
+    ASSERT_TRUE(run_->exists(pathOf(".temp0")));
+  }
+  EXPECT_FALSE(run_->removeItem(pathOf(".temp0")).failed());
+  EXPECT_FALSE(run_->exists(pathOf(".temp0")));
+  run_->releaseSpace();
+  EXPECT_EQ(run_->bytesNotKept(), 0U) << "nobody else removed the name";
+}
+
+TEST_F(FillerDirectoryFiles, TellsTheSpaceOfAHeldNameWhoseFileWasCutShort) {
+  fill(*run_, pathOf(".temp0"), 65536);
+  {
+    const ScopedOpenFileLimit limit(0);
+    ASSERT_FALSE(run_->removeItem(pathOf(".temp0")).failed());
+  }
+  fs::resize_file(pathOf(".temp0"), 4096);
+  run_->releaseSpace();
+  EXPECT_EQ(run_->bytesNotKept(), 65536U);
+}
+
+TEST_F(FillerDirectoryFiles, HoldsARemovedFileWithADescriptorThatCannotWrite) {
+  fill(*run_, pathOf(".temp0"), 65536);
+  const auto identity = identityAt(AT_FDCWD, pathOf(".temp0").c_str());
+  ASSERT_TRUE(identity.has_value());
+  ASSERT_FALSE(run_->removeItem(pathOf(".temp0")).failed());
+  int held = 0;
+  for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+    const int descriptor = std::stoi(entry.path().filename());
+    const auto found = identityOf(descriptor);
+    if (!found || !found->isSameFile(*identity)) continue;
+    ++held;
+    EXPECT_EQ(::fcntl(descriptor, F_GETFL) & O_ACCMODE, O_RDONLY);
+  }
+  EXPECT_EQ(held, 1);
 }
 
 TEST_F(FillerDirectoryFiles, ReportsAFileThatCannotBeMadeForWantOfDescriptors) {

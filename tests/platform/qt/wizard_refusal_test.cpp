@@ -23,6 +23,7 @@ TEST_F(RefusingWindowSession, RefusesAVolumeThatCannotBeErasedAndSaysWhy) {
     for (const Refusal& refusal : {Refusal{ErrorCode::notPermitted, "You are not allowed to write"},
                                    Refusal{ErrorCode::busy, "being erased by another process"},
                                    Refusal{ErrorCode::notOurs, "a folder \".$$XE8AQU\" that was not made by Calvero"},
+                                   Refusal{ErrorCode::locked, "that an earlier run left and that is locked"},
                                    Refusal{ErrorCode::other, "Unknown Error Occured"}}) {
       alertText.clear();
       files.script.failAt(FileCall::checkDirectory, files.script.count(FileCall::checkDirectory) + 1, refusal.code);

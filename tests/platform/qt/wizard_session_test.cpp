@@ -194,6 +194,17 @@ TEST_F(WindowSession, ReturnsByTheCompletionPagesOkToo) {
   });
 }
 
+TEST_F(WindowSession, NamesTheFolderThatAFinishedRunCouldNotRemove) {
+  mountVolume("DATA");
+  use([this] {
+    files.script.failAt(FileCall::removeDirectory, 1, ErrorCode::notPermitted);
+    startRun();
+    ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
+    EXPECT_THAT(outcome(), HasSubstr("The free space has been erased, but"));
+    EXPECT_THAT(outcome(), HasSubstr("/media/DATA/.$$XE8AQU"));
+  });
+}
+
 TEST_F(WindowSession, WarnsWhenWritesOfAFinishedRunFailed) {
   mountVolume("DATA");
   use([this] {
@@ -204,10 +215,12 @@ TEST_F(WindowSession, WarnsWhenWritesOfAFinishedRunFailed) {
   });
 }
 
-TEST_F(WindowSession, WarnsWhenSpaceCouldNotBeHeld) {
+TEST_F(WindowSession, WarnsWhenAnotherProgramGaveBackSpaceBeforeTheEnd) {
   mountVolume("DATA");
   use([this] {
     files.setHandleLimit(0);
+    files.script.before(FileCall::releaseSpace, 1,
+                        [this] { files.removeFromOutside("/media/DATA/.$$XE8AQU", ".temp0"); });
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
     EXPECT_THAT(outcome(), HasSubstr("Part of the free space of DATA could not be erased."));

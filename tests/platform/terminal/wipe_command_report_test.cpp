@@ -93,6 +93,35 @@ TEST(RefusalLine, SaysWhatToDo) {
   EXPECT_THAT(refusalLine(report, {ErrorCode::gone, "openat", "/a\nb", "no"}), Not(HasSubstr("\n")));
 }
 
+TEST(RefusalLine, NamesTheLeftoverThatMayNotBeChangedAndWhatToDo) {
+  const std::string line = refusalLine(reportOf(RunOutcome::none),
+                                       {ErrorCode::locked, "fchmod", "/media/stick/.x", "Operation not permitted"});
+  EXPECT_EQ(line,
+            "/media/stick/.x, which an earlier run left, may not be changed (Operation not permitted); unlock it, for "
+            "example with chattr -i -a, or remove it, and start again");
+}
+
+TEST(RefusalLine, SaysNoAboutTheAdministratorOnlyOnce) {
+  if (!isAdministrator()) GTEST_SKIP() << "needs root";
+  EXPECT_EQ(refusalLine(reportOf(RunOutcome::none), {ErrorCode::notPermitted, "", "", ""}),
+            "Not even the administrator may create files in the root folder of stick (/media/stick): it is locked, or "
+            "its file system is another user's");
+}
+
+TEST(RemainsLine, NamesWhatIsLeftWhyAndWhatToDo) {
+  WipeReport report = reportOf(RunOutcome::finished, 1);
+  EXPECT_EQ(remainsLine(report), "");
+  report.remains = {ErrorCode::notPermitted, "unlinkat", "/media/stick/.x", "Operation not permitted"};
+  EXPECT_EQ(remainsLine(report),
+            "/media/stick/.x could not be removed (Operation not permitted); lift what protects it or the folder above "
+            "it (chattr -a -i, permissions), then remove it, or start another run, which does");
+  EXPECT_EQ(failureLine(report, kMounted), "") << "no deleted data remains readable for it";
+  report.faults = 2;
+  EXPECT_THAT(failureLine(report, kMounted), HasSubstr("2 steps of the run failed"));
+  report.remains.code = ErrorCode::gone;
+  EXPECT_EQ(remainsLine(report), "") << "the failure line tells a lost volume";
+}
+
 TEST(RefusalLine, SendsAUserToTheAdministratorAndNotTheAdministrator) {
   const auto isSentTo = [](const char* word) {
     const std::string line = refusalLine(reportOf(RunOutcome::none), {ErrorCode::notPermitted, "", "", ""});
