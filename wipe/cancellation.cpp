@@ -30,12 +30,7 @@ void AppDelegate::cancelWipe() {
   // Before the flags, since a worker that sees them may be about to end the application.
   CancelWait idle = CancelWait::none;
   const bool isFirst = cancelWait_.compare_exchange_strong(idle, CancelWait::waiting);
-  // In this order: a worker that sees the flags may note an outcome of its own at once, and one that saw only
-  // `terminateThread` would clean up and report as if it had finished.
-  const bool comesInTime = run->claimStatus(StatusTeller::cancel);
-  if (comesInTime) run->end(RunOutcome::cancelled);
-  run->abortErasing = 1;
-  run->terminateThread = 1;
+  const bool comesInTime = run->cancel();
   ++shell_.cancelNumber;
   Controls& controls = ports_.controls;
   controls.hide(Control::proceedBtn);

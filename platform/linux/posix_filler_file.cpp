@@ -1,10 +1,8 @@
 #include "platform/linux/posix_filler_file.h"
 
 #include <linux/magic.h>
-#include <sys/vfs.h>
-#include <unistd.h>
-
 #include <cerrno>
+#include <utility>
 
 #include "platform/linux/posix_error.h"
 
@@ -17,22 +15,24 @@ namespace {
 // machine flushes in between: writes were refused and the file system turned read-only after some 700 flushes.
 constexpr int kFlushesBetweenCommits = 128;
 
-bool isOnBtrfs(int descriptor) {
+bool isOnBtrfs(int descriptor, const FillerFileCalls& calls) {
   struct statfs properties = {};
-  return ::fstatfs(descriptor, &properties) == 0 && properties.f_type == BTRFS_SUPER_MAGIC;
+  return calls.fstatfs(descriptor, &properties) == 0 && properties.f_type == BTRFS_SUPER_MAGIC;
 }
 
 }  // namespace
 
-PosixFillerFile::PosixFillerFile(Descriptor descriptor, std::string path, std::shared_ptr<VolumeWatch> watch)
+PosixFillerFile::PosixFillerFile(Descriptor descriptor, std::string path, std::shared_ptr<VolumeWatch> watch,
+                                 FillerFileCalls calls)
     : descriptor_(std::move(descriptor)),
       path_(std::move(path)),
       watch_(std::move(watch)),
-      pinsMetadata_(isOnBtrfs(descriptor_.get())) {}
+      calls_(calls),
+      pinsMetadata_(isOnBtrfs(descriptor_.get(), calls_)) {}
 
 WriteResult PosixFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes, std::uint64_t offset) {
   if (!watch_->wasThereLately()) return {-1, {ErrorCode::gone, "pwrite", path_, "the volume was taken away"}};
-  const auto write = [&] { return ::pwrite(descriptor_.get(), data, bytes, static_cast<off_t>(offset)); };
+  const auto write = [&] { return calls_.pwrite(descriptor_.get(), data, bytes, static_cast<off_t>(offset)); };
   ssize_t written = retryInterrupted(write);
   // Full only until the next commit, perhaps.
   if (written < 0 && errno == ENOSPC && pinsMetadata_ && !commit().failed()) written = retryInterrupted(write);
@@ -41,13 +41,13 @@ WriteResult PosixFillerFile::pwrite(const std::uint8_t* data, std::size_t bytes,
 }
 
 Error PosixFillerFile::fsync() {
-  if (retryInterrupted([&] { return ::fsync(descriptor_.get()); }) != 0) return posixError("fsync", path_, errno);
+  if (retryInterrupted([&] { return calls_.fsync(descriptor_.get()); }) != 0) return posixError("fsync", path_, errno);
   if (!pinsMetadata_ || ++flushes_ % kFlushesBetweenCommits != 0) return {};
   return commit();
 }
 
 Error PosixFillerFile::commit() const {
-  if (retryInterrupted([&] { return ::syncfs(descriptor_.get()); }) == 0) return {};
+  if (retryInterrupted([&] { return calls_.syncfs(descriptor_.get()); }) == 0) return {};
   return posixError("syncfs", path_, errno);
 }
 
