@@ -79,7 +79,10 @@ void AppDelegate::waitForRemoval(const std::atomic<bool>& removed, const std::sh
     vainLooks = cleanUpSteps() == steps ? vainLooks + 1 : 0;
   }
   if (!isRemoved && !ports_.eventLoop.isEnding()) {
-    ports_.log.notice("the volume does not answer; the filler files are removed as soon as it does");
+    // The program may have to end before: what hangs in the kernel then dies when it comes back, its work undone.
+    ports_.log.notice(
+        "the volume does not answer; the filler files are removed as soon as it does if the program still runs then, "
+        "else by the next run on it");
   }
 }
 
