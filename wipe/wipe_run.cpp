@@ -20,13 +20,16 @@ bool WipeRun::claimStatus(StatusTeller teller) {
   return statusTeller.compare_exchange_strong(first, teller) || first == teller;
 }
 
-bool WipeRun::cancel() {
+bool WipeRun::cancel(const std::function<void()>& stored) {
   // In this order: a worker that sees the flags may note an outcome of its own at once, and one that saw only
   // `terminateThread` would clean up and report as if it had finished.
   const bool comesInTime = claimStatus(StatusTeller::cancel);
   if (comesInTime) end(RunOutcome::cancelled);
+  stored();
   abortErasing = 1;
+  stored();
   terminateThread = 1;
+  stored();
   return comesInTime;
 }
 

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -75,8 +76,9 @@ struct WipeRun {
   void end(RunOutcome how);
   /// Whether the status of an ordered run is `teller`'s to tell: the first one to ask has it for good. Any thread.
   [[nodiscard]] bool claimStatus(StatusTeller teller);
-  /// Notes the outcome and raises the stop flags. False when the run has told its end already. Any thread.
-  bool cancel();
+  /// Notes the outcome and raises the stop flags. False when the run has told its end already. `stored` is called after
+  /// each of the three, for who wants to see that they come in their order. Any thread.
+  bool cancel(const std::function<void()>& stored = [] {});
 
   /// The filler directory while the run has one, else null. Any thread.
   [[nodiscard]] std::shared_ptr<FillerDirectory> directory() const;

@@ -108,7 +108,11 @@ def _untrueSuccess(fault, ended):
 
 def _leftBehind(fault, ended, withLeftovers):
     """What the fault itself keeps from being removed stays: all that is on a volume that has died, and all where the
-    calls go on failing by which things are removed. A directory that could not be taken over is nobody's to remove."""
+    calls go on failing by which things are removed. A directory that could not be taken over is nobody's to remove. And
+    what stays is never passed over in silence."""
+    if ended.left is not None and ended.exitCode == EXIT_FINISHED:
+        yield f"it left {ended.left} behind and calls itself finished"
+        return
     if ended.left is None or fault.action == "die" or (fault.lasts and fault.kind in _CLEANING):
         return
     if withLeftovers and ended.exitCode != EXIT_FINISHED and ended.calls["create"] == 0 and fault.kind in _TAKING_OVER:

@@ -158,7 +158,7 @@ TEST_F(CleanUp, MakesAFinishedRunFlawedWhoseDirectoryCannotBeRemoved) {
     EXPECT_EQ(flawed->firstFault().path, World::kDirectory);
     EXPECT_EQ(flawed->remains().code, code);
     EXPECT_TRUE(flawed->isFlawedByRemainsOnly());
-    EXPECT_THAT(other.journal.only({"log 1 failures"}), IsEmpty()) << "no deleted data remains readable for it";
+    EXPECT_THAT(other.journal.only({"log 1"}), IsEmpty()) << "no deleted data remains readable for it";
   }
 }
 
@@ -176,6 +176,16 @@ TEST_F(CleanUp, TellsWhatACancelCouldNotRemoveUnlessTheWorkerDoesWhenItEnds) {
     EXPECT_EQ(cancelled->remains().failed(), isProtected);
     EXPECT_EQ(cancelled->faults(), 0U);
   }
+}
+
+TEST_F(CleanUp, TellsWhatARunThatEndsBeforeItsCleanUpCouldNotRemove) {
+  world.files.script.failFrom(FileCall::removeDirectory, 1, ErrorCode::notPermitted);
+  world.files.script.before(FileCall::exists, 2,
+                            [this] { world.files.removeFromOutside(World::kDirectory, ".temp1"); });
+  const RunPtr failed = world.start().currentRun();
+  world.runWorker();
+  EXPECT_EQ(failed->outcome, RunOutcome::failed);
+  EXPECT_EQ(failed->remains().code, ErrorCode::notPermitted);
 }
 
 TEST_F(CleanUp, IgnoresADirectoryThatCannotBeRemoved) {
