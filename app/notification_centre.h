@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <utility>
@@ -23,6 +24,7 @@ class NotificationCentre {
       if (observed == name) action();
     }
   }
+  [[nodiscard]] std::size_t observerCount() const { return observers_.size(); }
 
  private:
   std::vector<std::pair<std::string, std::function<void()>>> observers_;

@@ -89,10 +89,32 @@ TEST_F(PopUp, ShownAgainReplacesTheTextAndAddsOneMoreTimerAndTrackingArea) {
 
 TEST_F(PopUp, ForgetsTheHoverWhenItCloses) {
   show();
-  world.popUp.pointerEnters();
-  world.popUp.pointerLeaves();
+  // The pointer comes in the very moment in which the window goes, and never leaves what is no longer there.
+  world.journal.whenAdded([this](const std::string& entry) {
+    if (entry == "popUpWindow orderOut") world.popUp.pointerEnters();
+  });
   sevenSecondsPass();
-  EXPECT_EQ(world.app().popUpState().mouseHoverForPopUp, 0);
+  EXPECT_FALSE(world.popUp.shown());
+  EXPECT_EQ(world.app().popUpState().mouseHoverForPopUp, 0) << "the next showing would stay for good";
+}
+
+TEST_F(PopUp, TakesThePendingCheckBackWhenItIsCheckedEarlier) {
+  show();
+  world.app().allPopupsVisibilty();
+  EXPECT_FALSE(world.popUp.shown());
+  EXPECT_THAT(world.journal.only({"stopTimer"}), ElementsAre("stopTimer"));
+  EXPECT_TRUE(world.loop.timers().empty());
+  EXPECT_EQ(world.app().popUpState().timerForPopUp, kNoTimer);
+}
+
+TEST_F(PopUp, HasOnePendingCheckThoughItIsCheckedEarlierUnderThePointer) {
+  show();
+  const TimerId first = world.app().popUpState().timerForPopUp;
+  world.popUp.pointerEnters();
+  world.app().allPopupsVisibilty();
+  ASSERT_EQ(world.loop.timers().size(), 1U);
+  EXPECT_NE(world.loop.timers().begin()->first, first);
+  EXPECT_EQ(world.loop.timers().begin()->first, world.app().popUpState().timerForPopUp);
 }
 
 TEST_F(PopUp, OfAWorkerIsShownByTheEventLoopAndStaysUntilTheApplicationEnds) {

@@ -70,6 +70,13 @@ TEST_F(StartUp, ClearsAllRunFlags) {
   EXPECT_EQ(app.shell().wipingProcessOn, 0);
 }
 
+TEST_F(StartUp, ClearsTheMarkOfARunThatIsUnderWayWhenItBeginsAnew) {
+  AppDelegate& app = world.start();
+  ASSERT_EQ(app.shell().wipingProcessOn, 1);
+  app.init();
+  EXPECT_EQ(app.shell().wipingProcessOn, 0);
+}
+
 TEST_F(StartUp, LogsInitReadsTheOrderAndThenListsTheVolumes) {
   world.create();
   EXPECT_THAT(world.journal.all(), ElementsAre("log init", "clearVolumes", "readTag cvrOnline", "mountedVolumes",
@@ -129,8 +136,10 @@ TEST_F(StartUp, CompletesTheLaunchOfAnOrderedWipeByStartingItBeforeTheCancelPoll
 
 TEST_F(StartUp, AddsExactlyTwoObserversWhenTheLaunchCompletes) {
   AppDelegate& app = world.create();
+  const std::size_t before = app.notifications().observerCount();
   app.applicationDidFinishLaunching();
   EXPECT_EQ(world.systemNotifications.observerCount(), 1U);
+  EXPECT_EQ(app.notifications().observerCount(), before + 1);
   expectOneObserverOfTheTiles(app);
   EXPECT_TRUE(world.loop.timers().empty());
 }
@@ -138,8 +147,10 @@ TEST_F(StartUp, AddsExactlyTwoObserversWhenTheLaunchCompletes) {
 TEST_F(StartUp, AddsOneTimerMoreInRemoteMode) {
   world.order("DATA", "1");
   AppDelegate& app = world.create();
+  const std::size_t before = app.notifications().observerCount();
   app.applicationDidFinishLaunching();
   EXPECT_EQ(world.systemNotifications.observerCount(), 1U);
+  EXPECT_EQ(app.notifications().observerCount(), before + 1);
   expectOneObserverOfTheTiles(app);
   ASSERT_EQ(world.loop.timers().size(), 1U);
   EXPECT_EQ(world.loop.timers().begin()->first, app.order().cvrTimer);

@@ -78,6 +78,23 @@ TEST_F(MethodSelection, TakesNumberAndPassCountOfTheMethodsRow) {
   }
 }
 
+TEST_F(MethodSelection, SetsTheButtonsBeforeTheChoice) {
+  AppDelegate& app = world.launch();
+  std::int32_t before = method();
+  std::size_t buttons = 0;
+  world.journal.whenAdded([&](const std::string&) {
+    ++buttons;
+    EXPECT_EQ(method(), before);
+    EXPECT_EQ(passes(), kRows.at(static_cast<std::size_t>(before)).passes);
+  });
+  for (const std::int32_t number : {8, 2, 6, 0, 5}) {
+    (app.*kRows.at(static_cast<std::size_t>(number)).handler)();
+    EXPECT_EQ(method(), number);
+    before = number;
+  }
+  EXPECT_EQ(buttons, 5 * kOrderOfButtons.size());
+}
+
 TEST_F(MethodSelection, ChoosesByNumberAsItsButtonWould) {
   AppDelegate& app = world.launch();
   for (const Row& row : kRows) {

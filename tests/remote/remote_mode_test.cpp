@@ -36,6 +36,19 @@ TEST_F(RemoteMode, IsOffUnlessTheOnlineTagReads1) {
   }
 }
 
+TEST_F(RemoteMode, IsLeftByAReloadOnceTheOrderIsNoLongerThere) {
+  world.volume("MORE", 500'000);
+  for (const char* value : {"0", ""}) {
+    world.order("DATA", "3");
+    AppDelegate& app = world.create();
+    ASSERT_EQ(app.order().cloudInitiation, 1);
+    world.tags.put("cvrOnline", value);
+    app.reloadVolumes();
+    EXPECT_EQ(app.order().cloudInitiation, 0) << '"' << value << '"';
+    EXPECT_THAT(app.volumes().volumeNameArray, ElementsAre("DATA", "MORE"));
+  }
+}
+
 TEST_F(RemoteMode, ReadsDriveAndMethodOnlyWhenAnOrderIsPending) {
   world.create();
   EXPECT_THAT(world.journal.only({"readTag"}), ElementsAre("readTag cvrOnline"));
@@ -146,12 +159,16 @@ TEST_F(RemoteModeWithoutASize, EndsAsAMissingVolumeWhenItIsTakenOut) {
 }
 
 TEST_F(RemoteModeWithoutASize, IsCancelledWhileItIsListedAgain) {
-  bool isSent = false;
+  int waits = 0;
   world.loop.whenLimitPasses([&] {
-    if (!std::exchange(isSent, true)) world.systemNotifications.send("cancel wipe", "cancel");
+    if (++waits == 2) world.systemNotifications.send("cancel wipe", "cancel");
   });
-  const AppDelegate& app = world.launch();
-  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  AppDelegate& app = world.create();
+  world.journal.clear();
+  app.applicationDidFinishLaunching();
+  EXPECT_EQ(world.journal.only({"mountedVolumes"}).size(), 1U) << "not listed once more after the cancel";
+  EXPECT_THAT(world.journal.only({"setTag"}), ElementsAre("setTag cvrStatus \"3\""));
+  EXPECT_EQ(world.loop.terminations(), 1);
   EXPECT_EQ(app.currentRun()->outcome, RunOutcome::cancelled);
   EXPECT_THAT(world.threads.names(), Not(Contains("calvero-wipe")));
 }

@@ -7,6 +7,7 @@ namespace calvero {
 namespace {
 
 using ::testing::ElementsAre;
+using testing::FakeDisk;
 using testing::FileCall;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -95,12 +96,27 @@ TEST_F(CleanUp, ReleasesTheSpaceThenRemovesTheDirectoryThenShowsTheSize) {
 }
 
 TEST_F(CleanUp, LeavesNothingOfAFinishedRunOnTheVolume) {
+  World other;
+  other.volume("DATA", 300'000);
+  run = other.start().currentRun();
+  FakeDisk& disk = other.files.volume("/media/DATA").disk;
+  std::size_t takenAtTheEnd = 0;
+  other.files.script.before(FileCall::releaseSpace, 1, [&] { takenAtTheEnd = disk.takenBlocks(); });
+  other.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::finished);
+  EXPECT_EQ(takenAtTheEnd, disk.blockCount()) << "everything was held until the end";
+  EXPECT_EQ(disk.takenBlocks(), 0U);
+  EXPECT_FALSE(other.files.directoryExists(World::kDirectory));
+}
+
+TEST_F(CleanUp, ShowsTheSizeAsListedAfterARunThatWroteNothing) {
   world.start();
   world.app().seventh_FAST_ZERO_WRITE();
   world.runWorker();
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
   EXPECT_EQ(world.files.volume("/media/DATA").disk.takenBlocks(), 0U);
-  EXPECT_EQ(world.controls.text(Control::tfCleanedSize), "300.00 MB");
+  EXPECT_THAT(world.journal.only({"setText tfCleanedSize"}),
+              ElementsAre("setText tfCleanedSize \"300.00 MB\"", "setText tfCleanedSize \"300.00 MB\""));
 }
 
 TEST_F(CleanUp, RemovesTheDirectoryAtTheRootOfTheRootVolume) {
@@ -194,7 +210,7 @@ TEST_F(CleanUp, IgnoresADirectoryThatCannotBeRemoved) {
   world.app().deleteFiles(*run);
   EXPECT_FALSE(world.app().abortErasing());
   EXPECT_EQ(run->volumeEjected, 0);
-  EXPECT_EQ(world.controls.text(Control::tfCleanedSize), "300.00 MB");
+  EXPECT_THAT(world.journal.only({"setText"}), ElementsAre("setText tfCleanedSize \"300.00 MB\""));
 }
 
 TEST_F(CleanUp, TakesALostMediumAsALostVolumeAndCarriesOn) {
@@ -204,11 +220,13 @@ TEST_F(CleanUp, TakesALostMediumAsALostVolumeAndCarriesOn) {
     AppDelegate& app = other.start();
     app.createFile(*app.currentRun());
     other.files.script.failAt(FileCall::removeDirectory, 1, code);
+    other.journal.clear();
     app.deleteFiles(*app.currentRun());
     EXPECT_TRUE(app.abortErasing());
     EXPECT_EQ(app.currentRun()->volumeEjected, 1);
     EXPECT_EQ(app.currentRun()->outcome, RunOutcome::failed);
-    EXPECT_EQ(other.controls.text(Control::tfCleanedSize), "300.00 MB");
+    EXPECT_THAT(other.journal.only({"setText", "alert", "terminate"}),
+                ElementsAre("setText tfCleanedSize \"300.00 MB\""));
   }
 }
 

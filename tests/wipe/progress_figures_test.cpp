@@ -120,6 +120,9 @@ TEST(ProgressPercent, IsTruncatedAndNeverZero) {
   EXPECT_EQ(progressPercent(1, 1000), 1);
   EXPECT_EQ(progressPercent(19, 1000), 1);
   EXPECT_EQ(progressPercent(29, 100), 28) << "29 / 100 x 100 is a little less than 29 in double precision";
+  EXPECT_EQ(progressPercent(29, 50), 57) << "and 29 / 50 x 100 than 58";
+  EXPECT_EQ(progressPercent(57, 100), 56);
+  EXPECT_EQ(progressPercent(59, 100), 59) << "where single precision has a little less";
   EXPECT_EQ(progressPercent(999, 1000), 99);
 }
 

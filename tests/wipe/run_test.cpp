@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "tests/fakes/world.h"
 #include "tests/wipe/alert_texts.h"
 
@@ -318,12 +320,31 @@ TEST_F(Phases, MarkAFinishedRunAsOverAndLeaveTheProcessOn) {
 
 TEST_F(Phases, RaiseTheCompletionWindowBeforeTheRunIsMarkedAsOver) {
   const RunPtr run = startWithoutPasses();
-  world.loop.setPosts(testing::FakeEventLoop::Posts::queued);
+  bool wasOver = true;
+  world.journal.whenAdded([&](const std::string& entry) {
+    if (entry == "bringToFront windowCompleted") wasOver = run->abortErasing != 0;
+  });
   world.runWorker();
-  world.loop.drain();
+  EXPECT_FALSE(wasOver) << "the window would stay away if it were asked for after the mark";
   EXPECT_EQ(world.journal.all().back(), "bringToFront windowCompleted");
   EXPECT_TRUE(world.controls.shown(Control::windowCompleted));
   EXPECT_EQ(run->abortErasing, 1);
+}
+
+TEST_F(Phases, PostTheCompletionWindowBeforeTheRunIsMarkedAsOver) {
+  const RunPtr run = startWithoutPasses();
+  world.loop.setPosts(testing::FakeEventLoop::Posts::queued);
+  world.loop.setLoopThread(testing::FakeEventLoop::LoopThread::thisThreadOnly);
+  bool wasOver = true;
+  world.journal.whenAdded([&](const std::string& entry) {
+    if (entry == "post") wasOver = run->abortErasing != 0;
+  });
+  std::thread([this] { world.runWorker(); }).join();
+  EXPECT_FALSE(wasOver) << "at the last post";
+  EXPECT_EQ(run->abortErasing, 1);
+  EXPECT_FALSE(world.controls.shown(Control::windowCompleted));
+  world.loop.drain();
+  EXPECT_EQ(world.journal.all().back(), "bringToFront windowCompleted");
 }
 
 }  // namespace

@@ -46,10 +46,13 @@ TEST_F(EndOfWindowSession, RefusesToCloseDuringARunAndEndsTheProgramAfterwards) 
     EXPECT_THAT(alertText, HasSubstr("Wiping process is On"));
     EXPECT_TRUE(ports.window.isVisible());
     EXPECT_FALSE(app->currentRun()->stopRequested());
+    EXPECT_FALSE(ports.loop.isEnding());
     answerNextAlert();
     press("cancelBut");
     ASSERT_TRUE(comesTrue([this] { return app->shell().wipingProcessOn == 0; }));
+    EXPECT_FALSE(ports.loop.isEnding());
     EXPECT_TRUE(ports.window.close());
+    EXPECT_TRUE(ports.loop.isEnding()) << "the program would run on without a window";
   });
 }
 
