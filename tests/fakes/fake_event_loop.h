@@ -104,13 +104,14 @@ class FakeEventLoop : public EventLoop {
 
   /// Runs when somebody waits while serving events: what he waits for may happen here.
   void whenServed(std::function<void()> hook) { whenServed_ = std::move(hook); }
-  /// From now on waiting lasts until its limit, without `done` coming true.
+  /// From now on waiting lasts until its limit, unless `done` was true before it began.
   void letLimitsPass() { limitsPass_ = true; }
   void whenLimitPasses(std::function<void()> hook) { whenLimitPasses_ = std::move(hook); }
 
   bool serveUntil(const std::function<bool()>& done, std::chrono::milliseconds limit) override {
     if (isEnding()) return done();
     if (limitsPass_) {
+      if (done()) return true;
       journal_.add("limit " + std::to_string(limit.count()));
       if (whenLimitPasses_) whenLimitPasses_();
       return done();

@@ -124,6 +124,7 @@ TEST_F(RemoteModeWithoutASize, ListsAgainUntilItIsKnownAndRuns) {
   });
   const AppDelegate& app = world.launch();
   EXPECT_EQ(listings, 3);
+  EXPECT_EQ(world.controls.tileCount(), 1U) << "each list takes the place of the one before";
   EXPECT_EQ(app.volumes().volumeNameArray, std::vector<std::string>{"SLOW"});
   EXPECT_EQ(app.freeSpaceOnDisk(), 40'000U);
   world.runWorker();
@@ -142,7 +143,13 @@ TEST_F(RemoteModeWithoutASize, ListensToTheTableOnceHoweverOftenItIsListedAgain)
 }
 
 TEST_F(RemoteModeWithoutASize, EndsAsALostVolumeWhenItNeverIsKnown) {
-  world.launch();
+  AppDelegate& app = world.create();
+  world.journal.clear();
+  app.applicationDidFinishLaunching();
+  EXPECT_EQ(world.journal.only({"mountedVolumes"}).size(), 5U);
+  EXPECT_EQ(world.journal.only({"limit"}), Steps(5, "limit 2000"));
+  EXPECT_THAT(world.journal.only({"notice"}),
+              ElementsAre("notice the volume does not tell its size; nothing is wiped"));
   EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
   EXPECT_EQ(world.loop.terminations(), 1);
   EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::failed);

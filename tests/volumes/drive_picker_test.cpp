@@ -121,6 +121,7 @@ TEST_F(DrivePicker, OlderFormDoesNotLookWhetherTheListHasShrunk) {
   picker().setSelectionIndexes3({1});
   EXPECT_EQ(world.app().selectedTableRow(), 1U);
   EXPECT_EQ(picker().previousSelection(), 4U);
+  EXPECT_EQ(world.journal.only({"setTileSelection"}).back(), "setTileSelection 1") << "passed on to the tiles first";
 }
 
 TEST(SpareCollectionView, StartsAtTheFirstTileAndShowsNothing) {

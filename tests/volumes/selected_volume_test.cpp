@@ -129,6 +129,7 @@ TEST(VolumePath, SetsBothFlagsShowsThePanelAndTerminatesWhenTheLookupFails) {
   EXPECT_EQ(app.getVolumePath("DATA"), std::nullopt);
   EXPECT_TRUE(app.abortErasing());
   EXPECT_EQ(app.currentRun()->volumeEjected, 1);
+  EXPECT_THAT(world.journal.only({"log"}), ElementsAre("log disk lookup: the mount table cannot be read"));
   EXPECT_THAT(world.steps(),
               ElementsAre("alert \"<Information>\" \"<Unknown Error Occured>\" \"<Relaunch the application>\" \"<>\"",
                           "terminate"));

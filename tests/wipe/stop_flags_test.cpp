@@ -66,6 +66,36 @@ TEST_F(StopFlags, ToldThreadsAreNoReasonForAnAlertAtTheStartOfTheSecondPhase) {
   EXPECT_EQ(run->applicationEnding, 0);
 }
 
+TEST_F(StopFlags, AreAllOfThemRaisedForAWorkerThatIsLeftWithoutItsClock) {
+  world.threads.refuse("calvero-clock");
+  bool isTold = false;
+  world.alerts.whileShown([&] {
+    const RunPtr left = world.app().currentRun();
+    isTold = left->abortErasing != 0 && left->terminateThread != 0 && left->applicationEnding != 0;
+  });
+  world.proceed();
+  EXPECT_TRUE(isTold) << "whichever of them the worker looks at next";
+}
+
+TEST_F(StopFlags, AreBothRaisedForARunThatIsReplacedAndGoOverToTheNext) {
+  run->volumeEjected = 1;
+  world.app().allocateAllArrays();
+  EXPECT_EQ(run->abortErasing, 1);
+  EXPECT_EQ(run->terminateThread, 1);
+  const RunPtr next = world.app().currentRun();
+  ASSERT_NE(next, run);
+  EXPECT_EQ(next->abortErasing, 0);
+  EXPECT_EQ(next->terminateThread, 0);
+  EXPECT_EQ(next->volumeEjected, 1) << "only the list of files is a new one";
+}
+
+TEST_F(StopFlags, OfAnEarlierRunStayRaisedWhenItIsProceededOnceMore) {
+  world.proceed();
+  EXPECT_NE(world.app().currentRun(), run);
+  EXPECT_TRUE(run->stopRequested());
+  EXPECT_FALSE(world.app().currentRun()->stopRequested());
+}
+
 TEST_F(StopFlags, ToldThreadsDoNotEndTheFirstPhaseAfterItsFirstLook) {
   when("startProgressAnimation", [this] { run->terminateThread = 1; });
   world.app().startPhaseOne(*run);
