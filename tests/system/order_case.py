@@ -5,6 +5,7 @@ import fcntl
 import json
 import os
 import shutil
+import struct
 import tempfile
 from unittest import mock
 
@@ -102,6 +103,20 @@ class OrderTest(SystemTest):
 
     def setOrder(self, volume, method="3", **values):
         self.setTags(cvrOnline="1", cvrDrive=volume, cvrAlgo=method, **values)
+
+    def claim(self):
+        """A run of the order, wherever it is in its course; returns what ends it."""
+        held = os.open(self.store + "-order", os.O_RDWR | os.O_CREAT, 0o600)
+        fcntl.fcntl(held, fcntl.F_OFD_SETLK, struct.pack("hhqqi4x", fcntl.F_WRLCK, os.SEEK_SET, 0, 0, 0))
+        ended = []
+
+        def end():
+            if not ended:
+                ended.append(True)
+                os.close(held)
+
+        self.addCleanup(end)
+        return end
 
     def hold(self, target):
         """A run on the volume, as everybody else sees it; returns what ends it."""

@@ -92,32 +92,43 @@ class OrdersOfOthers(OrderTest):
     def testACancelMayWaitForTheStatus(self):
         target = self.makeVolume()
         self.setOrder(target.name)
-        end = self.hold(target)
+        end, giveUp = self.hold(target), self.claim()
         started = self.startProgram("cancel", "--wait")
         program.waitUntil(lambda: self.tags().get("CVRCANCEL") == "1", "the request")
         self.assertIsNone(started.poll())
         end()
         self.setTags(CVRCANCEL="0", cvrStatus="3")
+        giveUp()
         self.assertEndsWith(self.finish(started), program.EXIT_FINISHED, "Cancelled", target.name)
 
     def testACancelThatComesTooLateLeavesNoRequestForTheNextRun(self):
         target = self.makeVolume()
         self.setOrder(target.name)
-        end = self.hold(target)
+        end, giveUp = self.hold(target), self.claim()
         started = self.startProgram("cancel", "--wait")
         program.waitUntil(lambda: self.tags().get("CVRCANCEL") == "1", "the request")
         end()
         self.setTags(cvrStatus="2")
+        giveUp()
         self.assertEndsWith(self.finish(started), program.EXIT_FINISHED, "Finished", target.name)
         self.assertEqual(self.tags()["CVRCANCEL"], "0")
 
     def testACancelThatNoBusCarriesReturnsAtOnceAndLeavesTheRequestToTheRun(self):
         target = self.makeVolume()
         self.setOrder(target.name)
-        self.hold(target)
+        self.claim()
         ended = self.runProgram("cancel")
         self.assertEqual(ended.returncode, program.EXIT_FINISHED, ended)
         self.assertOneLine(ended.stdout, target.name, "asked to end")
+        self.assertEqual(self.tags()["CVRCANCEL"], "1")
+
+    def testWhereNoClaimCanBeMadeTheVolumeTellsOfTheRun(self):
+        target = self.makeVolume()
+        self.setOrder(target.name)
+        os.mkdir(self.store + "-order")
+        self.assertRefused(self.runProgram("cancel"), target.name, "no run")
+        self.hold(target)
+        self.assertEqual(self.runProgram("cancel").returncode, program.EXIT_FINISHED)
         self.assertEqual(self.tags()["CVRCANCEL"], "1")
 
     def testACancelIsRefusedOnceTheRunHasEnded(self):
@@ -125,9 +136,18 @@ class OrdersOfOthers(OrderTest):
         self.setOrder(target.name, cvrStatus="2")
         self.assertRefused(self.runProgram("cancel"), target.name, "ended")
         self.assertNotIn("CVRCANCEL", self.tags())
-        self.hold(target)
+        self.claim()
         self.assertEqual(self.runProgram("cancel").returncode, program.EXIT_FINISHED, "it runs again")
         self.assertEqual(self.tags()["CVRCANCEL"], "1")
+
+    def testACancelWithoutARunIsRefusedThoughSomebodyElseWipesTheVolume(self):
+        target = self.makeVolume()
+        self.setOrder(target.name)
+        before = self.tags()
+        self.hold(target)
+        for arguments in (("cancel",), ("cancel", "--wait")):
+            self.assertRefused(self.runProgram(*arguments), target.name, "no run", "calvero-cli clear")
+        self.assertEqual(self.tags(), before)
 
 
 class Notifications(OrderTest):
@@ -149,6 +169,7 @@ class Notifications(OrderTest):
         with open(self.file("heard"), "w") as heard:
             self.background("dbus-monitor", "--session", "type='signal',member='Posted'", output=heard)
         self.setOrder("not there")
+        self.claim()
 
         def isHeard():
             # Anew, until the monitor listens.
@@ -177,8 +198,8 @@ class WithoutVolumes(OrderTest):
         self.setOrder("not there", "abc", LANG="fr")
         self.assertIn('"not there" with method 1 (zero), since "abc" names none, pending',
                       self.runProgram("status").stdout)
-        self.assertEqual(self.runProgram("cancel").returncode, program.EXIT_FINISHED)
-        self.assertEqual(self.tags()["CVRCANCEL"], "1")
+        self.assertRefused(self.runProgram("cancel"), "not there", "no run")
+        self.assertNotIn("CVRCANCEL", self.tags())
         ended = self.runProgram("clear")
         self.assertEqual(ended.returncode, program.EXIT_FINISHED, ended)
         self.assertEqual(self.tags(), NOTHING_LEFT | {"LANG": "fr"})

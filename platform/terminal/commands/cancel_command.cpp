@@ -17,14 +17,15 @@ constexpr std::chrono::seconds kTimeToFollow = kCancelPollInterval + std::chrono
 /// A run that is notified ends at once, and only then is it known that the tag is not needed.
 constexpr std::chrono::seconds kTimeToFollowTheNotification{20};
 
-/// Why nothing could follow a request; empty when something could.
-std::string whyNothingCouldFollow(const PendingOrder& order, const RunLookup& isUnderWay) {
+/// Why nothing could follow a request; empty when something could. Without a run the notification would end whatever
+/// else is under way in the session, and the tag the order's next run.
+std::string whyNothingCouldFollow(const PendingOrder& order, const RunLookup& hasRun) {
   if (!order.exists()) return "There is no order to cancel";
-  if (isUnderWay(order)) return "";
+  if (hasRun(order)) return "";
   const std::string name = printable(order.volume);
   if (!order.isPending()) return "The order for " + name + " is not pending and has no run";
-  // The notification would end whatever else a window is doing, and the tag the order's next run.
-  return order.hasEnded() ? "The run on " + name + " has ended already" : "";
+  if (order.hasEnded()) return "The run on " + name + " has ended already";
+  return "The order for " + name + " has no run to cancel; calvero-cli clear removes the order";
 }
 
 /// False when a signal has ended the wait.
@@ -38,10 +39,10 @@ bool waitForTheEnd(CancelWatch& watch, AsioEventLoop& loop, std::chrono::seconds
 
 }  // namespace
 
-AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::function<bool()>& notify) {
+AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& hasRun, const std::function<bool()>& notify) {
   AskedToEnd asked;
   asked.answer = changeOrder(tags, [&](const PendingOrder& order) -> OrderChange {
-    if (const std::string why = whyNothingCouldFollow(order, isUnderWay); !why.empty()) {
+    if (const std::string why = whyNothingCouldFollow(order, hasRun); !why.empty()) {
       return {{ExitCode::refused, why}, {}};
     }
     return {
@@ -89,9 +90,10 @@ ExitCode cancelCommand(const CancelRequest& request) {
   StoredOrderTags tags(tagStorePath());
   OrderRuns runs;
   const RunLookup isUnderWay = [&runs](const PendingOrder& order) { return runs.isUnderWay(order); };
+  const RunLookup hasRun = [&runs](const PendingOrder& order) { return runs.isCarriedOut(order); };
   const ClaimLookup isClaimed = [&runs] { return runs.claim().isHeldByAnother(); };
   const PendingOrder before = readPendingOrder(tags);
-  const AskedToEnd asked = cancelOrder(tags, isUnderWay, request.notify);
+  const AskedToEnd asked = cancelOrder(tags, hasRun, request.notify);
   const ExitCode code = give(asked.answer);
   if (code != ExitCode::finished || (!request.wait && !asked.isNotified)) return code;
   CancelWatch watch(tags, isUnderWay, isClaimed, before);

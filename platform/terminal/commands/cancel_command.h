@@ -12,9 +12,9 @@ struct AskedToEnd {
   bool isNotified = false;
 };
 
-/// Asks the run of the order to end, by the tag and by `notify` where there is one. Refused when nothing could follow
-/// that: no order, or one whose run has ended. Throws TagStoreFailure.
-AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& isUnderWay, const std::function<bool()>& notify);
+/// Asks the run of the order to end, by the tag and by `notify` where there is one. Refused, with nothing stored and
+/// nobody notified, when `hasRun` knows of none. Throws TagStoreFailure.
+AskedToEnd cancelOrder(OrderTags& tags, const RunLookup& hasRun, const std::function<bool()>& notify);
 
 /// Whether a program holds the claim to the order: only such a program looks at the request.
 using ClaimLookup = std::function<bool()>;

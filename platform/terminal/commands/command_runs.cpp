@@ -13,6 +13,13 @@ constexpr std::chrono::seconds kPatienceWithTheEnd{10};
 
 }  // namespace
 
+bool OrderRuns::isCarriedOut(const PendingOrder& order) {
+  const OrderClaim::Holder holder = claim_.take({});
+  if (holder == OrderClaim::Holder::us) claim_.giveUp();
+  // Where no claim can be made an order is carried out without one, and only the volume tells of its run.
+  return holder == OrderClaim::Holder::another || (holder == OrderClaim::Holder::nobody && isHeld(order.volume));
+}
+
 bool OrderRuns::keepOut(const PendingOrder& order) {
   const auto patience = order.hasEnded() ? kPatienceWithTheEnd : kPatience;
   return claim_.take(patience) != OrderClaim::Holder::another && !isHeld(order.volume);

@@ -16,6 +16,9 @@ class OrderRuns {
   /// As RunLookup.
   bool isUnderWay(const PendingOrder& order) { return claim_.isHeldByAnother() || isHeld(order.volume); }
 
+  /// Whether a run of the order itself is under way. A wipe that somebody else has begun on its volume is none.
+  bool isCarriedOut(const PendingOrder& order);
+
   /// From now on no run of the order begins. False when one is under way. A run that has told its end is waited for,
   /// since it is about to end.
   bool keepOut(const PendingOrder& order);

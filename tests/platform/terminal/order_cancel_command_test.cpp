@@ -38,6 +38,7 @@ class CancelOrder : public ::testing::Test {
 
 TEST_F(CancelOrder, SetsTheTagBeforeItNotifies) {
   tags_.putOrder("stick", "3");
+  runs_.claim();
   const Answer answer = cancel();
   EXPECT_EQ(answer.exitCode, ExitCode::finished);
   EXPECT_THAT(answer.line, HasSubstr("stick"));
@@ -46,6 +47,7 @@ TEST_F(CancelOrder, SetsTheTagBeforeItNotifies) {
 
 TEST_F(CancelOrder, NeedsNoNotification) {
   tags_.putOrder("stick", "3");
+  runs_.claim();
   const AskedToEnd asked = cancelOrder(tags_, runs_.lookup(), nullptr);
   EXPECT_EQ(asked.answer.exitCode, ExitCode::finished);
   EXPECT_FALSE(asked.isNotified);
@@ -54,6 +56,7 @@ TEST_F(CancelOrder, NeedsNoNotification) {
 
 TEST_F(CancelOrder, TellsWhetherTheNotificationWentOut) {
   tags_.putOrder("stick", "3");
+  runs_.claim();
   for (const bool isSent : {true, false}) {
     EXPECT_EQ(cancelOrder(tags_, runs_.lookup(), [isSent] { return isSent; }).isNotified, isSent);
   }
@@ -61,13 +64,26 @@ TEST_F(CancelOrder, TellsWhetherTheNotificationWentOut) {
 
 TEST_F(CancelOrder, IsRefusedWhenTheRunEndsBeforeTheRequestIsStored) {
   tags_.putOrder("stick", "3");
-  tags_.beforeStore([this] { tags_.put(kTagStatus, kStatusFinished); });
+  runs_.claim();
+  tags_.beforeStore([this] {
+    tags_.put(kTagStatus, kStatusFinished);
+    runs_.giveUpClaim();
+  });
   expectRefused("has ended already");
   EXPECT_EQ(tags_.peek(kTagCancel), "");
 }
 
 TEST_F(CancelOrder, IsRefusedWithoutAnOrder) {
   expectRefused("There is no order");
+}
+
+TEST_F(CancelOrder, IsRefusedWithNothingStoredOrSentForAnOrderThatHasNoRun) {
+  tags_.putOrder("stick", "3");
+  for (const char* value : {"", "0", "1"}) {
+    tags_.put(kTagCancel, value);
+    expectRefused("The order for stick has no run to cancel");
+    EXPECT_EQ(tags_.peek(kTagCancel), value);
+  }
 }
 
 TEST_F(CancelOrder, IsRefusedOnceTheRunHasEnded) {
@@ -92,6 +108,7 @@ TEST_F(CancelOrder, ReachesARunWhoseOrderWasCalledOffOrWhoseStatusIsAnOldOne) {
 
 TEST_F(CancelOrder, NotifiesNobodyWhenTheStoreCannotBeWritten) {
   tags_.putOrder("stick", "3");
+  runs_.claim();
   tags_.setWritable(false);
   EXPECT_THROW(cancel(), TagStoreFailure);
   EXPECT_THAT(journal_.all(), IsEmpty());
