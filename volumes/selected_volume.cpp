@@ -4,6 +4,7 @@
 #include "ports/controls.h"
 #include "ports/disk_lookup.h"
 #include "ports/files.h"
+#include "ports/mounted_volumes.h"
 #include "ports/system_log.h"
 #include "wipe/filler_names.h"
 
@@ -71,6 +72,10 @@ Error AppDelegate::checkSelectedVolume() {
   const std::string name = nameSelectedVolume();
   const auto path = getVolumePath(name);
   if (!path) return {ErrorCode::notFound, "look up", name, "it is not mounted any more"};
+  // First: nobody could clear away what else is in the way there.
+  if (ports_.mountedVolumes.isReadOnly(*path) == true) {
+    return {ErrorCode::readOnly, "statvfs", *path, "it is mounted read-only"};
+  }
   Error error = ports_.files.checkFillerDirectory(*path, fillerDirectoryPath(*path));
   // A volume without a size did not answer when it was listed: a run would take its free space for nothing.
   const bool wasListedInFull = selection().capacityBytes() > 0;

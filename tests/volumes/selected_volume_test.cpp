@@ -9,6 +9,7 @@ namespace calvero {
 namespace {
 
 using ::testing::ElementsAre;
+using testing::FileCall;
 using ::testing::IsEmpty;
 using testing::World;
 
@@ -151,7 +152,18 @@ TEST(SelectedVolumeCheck, FindsNothingWrongWithAWritableVolumeAndChangesNothing)
   AppDelegate& app = world.launch();
   EXPECT_FALSE(app.checkSelectedVolume().failed());
   EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
-  EXPECT_THAT(world.steps(), ElementsAre("checkDirectory /media/DATA/.$$XE8AQU"));
+  EXPECT_THAT(world.steps(), ElementsAre("isReadOnly /media/DATA", "checkDirectory /media/DATA/.$$XE8AQU"));
+}
+
+TEST(SelectedVolumeCheck, RefusesAReadOnlyVolumeBeforeItLooksAtAnythingOnIt) {
+  World world;
+  MountedVolume volume = described("ext4");
+  volume.readOnly = true;
+  world.volume(volume);
+  world.files.addForeignDirectory(volume.mountPath, World::kDirectory);
+  world.files.script.failFrom(FileCall::checkDirectory, 1, ErrorCode::notOurs);
+  EXPECT_EQ(world.launch().checkSelectedVolume().code, ErrorCode::readOnly);
+  EXPECT_EQ(world.files.script.count(FileCall::checkDirectory), 0U);
 }
 
 TEST(SelectedVolumeCheck, TellsAVolumeThatIsNotMountedAnyMore) {

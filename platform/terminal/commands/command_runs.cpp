@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "ports/files.h"
+#include "wipe/filler_names.h"
+
 namespace calvero {
 namespace {
 
@@ -23,6 +26,13 @@ bool OrderRuns::isCarriedOut(const PendingOrder& order) {
 bool OrderRuns::keepOut(const PendingOrder& order) {
   const auto patience = order.hasEnded() ? kPatienceWithTheEnd : kPatience;
   return claim_.take(patience) != OrderClaim::Holder::another && !isHeld(order.volume);
+}
+
+bool OrderRuns::isHeld(const std::string& volume) {
+  const auto path = volume.empty() ? std::nullopt : app_.getVolumePath(volume);
+  if (!path) return false;
+  // The filler directory alone: a volume that has turned read-only under its run is held all the same.
+  return ports_.ports().files.checkFillerDirectory(*path, fillerDirectoryPath(*path)).code == ErrorCode::busy;
 }
 
 Error OrderRuns::check(const std::string& volume) {

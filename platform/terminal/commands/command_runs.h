@@ -32,7 +32,7 @@ class OrderRuns {
 
  private:
   /// A volume that is not mounted has no run.
-  bool isHeld(const std::string& volume) { return !volume.empty() && check(volume).code == ErrorCode::busy; }
+  bool isHeld(const std::string& volume);
 
   OrderClaim claim_{tagStorePath()};
   CommandPorts ports_{Output::nowhere(), Answering::defaultButtons};
