@@ -20,6 +20,7 @@
 #include "platform/qt/translations.h"
 #include "platform/qt/wizard/wizard_ports.h"
 #include "platform/qt/wizard/wizard_session.h"
+#include "platform/suite/claimed_tags.h"
 #include "platform/suite/order_claim.h"
 #include "platform/suite/sqlite_tag_store.h"
 #include "platform/suite/suite_folder.h"
@@ -35,8 +36,6 @@ constexpr int kCancelled = 4;
 constexpr std::chrono::seconds kTimeForThreadsToEnd{2};
 constexpr std::chrono::seconds kTimeForTagsToBeStored{2};
 constexpr std::chrono::seconds kTimeForTheStatusToBeStored{600};
-/// A command that looks at the order or changes it holds the claim for a moment.
-constexpr std::chrono::seconds kPatienceWithTheClaim{1};
 
 void printError(const std::string& text) {
   std::fprintf(stderr, "calvero: %s\n", text.c_str());
@@ -49,14 +48,6 @@ int print(const std::string& text) {
   printError("The output could not be written: " +
              (failure == kNobodyReads ? "nobody reads it" : std::generic_category().message(failure)));
   return kFailed;
-}
-
-/// Whether another process carries out the order. Where nobody can tell, this one does so as well.
-bool isClaimedByAnother(OrderClaim& claim, SystemLog& log) {
-  const OrderClaim::Holder holder = claim.take(kPatienceWithTheClaim);
-  if (holder == OrderClaim::Holder::another) log.line("the order is under way in another process; this one ends");
-  if (holder == OrderClaim::Holder::nobody) log.line("the order cannot be claimed: a second start would not see it");
-  return holder == OrderClaim::Holder::another;
 }
 
 /// A run with failed writes has finished, but is no success.
@@ -89,7 +80,8 @@ int showWindow(int argumentCount, char** arguments) {
   OrderClaim claim(tagStorePath());
   claim.inherit();
   const bool isOrdered = authentication.GetValueForTag(kTagOnline) == "1";
-  if (isOrdered && isClaimedByAnother(claim, log)) return kRefused;
+  ClaimedTags claimedTags(tags, claim, kTagOnline, log);
+  if (isOrdered && !claimedTags.isOursToCarryOut()) return kRefused;
 
   chooseDisplay();
   QApplication application(argumentCount, arguments);
@@ -102,19 +94,16 @@ int showWindow(int argumentCount, char** arguments) {
   QApplication::setQuitOnLastWindowClosed(false);  // the controller decides when the program ends
   texts.install();
 
-  WizardPorts ports({tags, addresses, workspace, texts});
+  WizardPorts ports({claimedTags, addresses, workspace, texts});
   AppDelegate app(ports.ports());
-  const bool isRemote = app.order().cloudInitiation != 0;
-  if (!isRemote) {
-    claim.giveUp();
-  } else if (!isOrdered && isClaimedByAnother(claim, log)) {  // it was ordered since
-    return kRefused;
-  }
+  const auto isRemoteNow = [&app] { return app.order().cloudInitiation != 0; };
+  const bool beganRemote = isRemoteNow();
+  if (!beganRemote) claimedTags.giveUp();
   WizardSession session(ports, app);
   ports.loop.post([&session] { session.start(); });
   int code = ports.loop.run();
   const bool threadsEnded = ports.threads.waitForAll(kTimeForThreadsToEnd);
-  if (isRemote) {
+  if (beganRemote || isRemoteNow()) {  // listing the volumes anew reads the order anew
     waitForTheStatus(tags, session);
     claim.giveUp();
     code = exitCodeOf(*app.currentRun());

@@ -1,6 +1,7 @@
 """Ordered runs on a desktop: the message at the end is all that is ever seen of them. A window that somebody uses
 follows a cancel of other programs too."""
 
+import fcntl
 import os
 import re
 import shutil
@@ -219,6 +220,36 @@ class UsedWindow(SeenTest):
         self.assertEqual(order.tags.read(), before)
         self.assertNothingLeft(target)
         self.assertFreeAgain(target, freeBefore)
+
+    def testListingTheDrivesAnewLeavesAnOrderAloneThatAnotherProcessCarriesOut(self):
+        target = self.makeVolume("ext4", 16)
+        order, window = self.startUnordered()
+        self.choose(window, target)
+        with open(order.tags.path + "-order", "a") as claim:
+            fcntl.fcntl(claim, fcntl.F_OFD_SETLK, struct.pack("hhqqi4x", fcntl.F_WRLCK, os.SEEK_SET, 0, 0, 0))
+            order.tags.set(cvrOnline="1")
+            window.pressButton("Reload Drives")
+            self.toMethods(window, target)  # it has not taken the order, which would narrow its list
+            self.assertIsNone(order.status)
+            order.tags.set(cvrOnline="0")  # cleared
+        self.proceed(window, answer="NO")
+        self.quit(window)
+        self.assertIsNone(order.status, "no status is written into a store that has been cleared")
+
+    def testListingTheDrivesAnewClaimsAPendingOrderThatNobodyCarriesOut(self):
+        target, other = self.makeVolume("ext4", 16), self.makeVolume("ext4", 16)
+        order, window = self.startUnordered()
+        self.choose(window, other)
+        order.tags.set(cvrOnline="1", cvrDrive=target.name)
+        window.pressButton("Reload Drives")
+        self.assertDescribed(window, target)
+        ended = subprocess.run([program.programPath(), "clear"], env=os.environ | {STORE_VARIABLE: order.tags.path},
+                               capture_output=True, text=True, timeout=60, check=False)
+        self.assertRefused(ended, target.name, "under way")
+        second = subprocess.run([program.windowProgramPath()], env=order.env, capture_output=True, text=True,
+                                timeout=60, check=False)
+        self.assertEqual(second.returncode, program.EXIT_REFUSED, second)
+        self.assertIsNone(order.status)
 
     def testANotificationWithoutARunEndsTheProgramToo(self):
         target = self.makeVolume("ext4", 16)
