@@ -17,6 +17,7 @@ enum class ErrorCode {
   locked,        ///< a filler directory that an earlier run left may not be changed
   gone,          ///< the medium fails or has been pulled
   noHandles,     ///< the limit of open files is reached
+  thinStorage,   ///< the storage below the volume has less room than the volume shows
   closed,        ///< the run's filler directory has been given back; nothing more is created in it
   other,
 };

@@ -99,15 +99,16 @@ class Files {
   virtual bool exists(const std::string& path) = 0;
 
   /// Whether `createFillerDirectory` could succeed now. Creates and changes nothing. Codes: `notPermitted`,
-  /// `readOnly`, `busy`, `notOurs`, `locked`, `notFound`, `gone`; the last also when the volume does not answer for
-  /// seconds.
+  /// `readOnly`, `busy`, `notOurs`, `locked`, `notFound`, `thinStorage`, `gone`; the last also when the volume does not
+  /// answer for seconds.
   virtual Error checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) = 0;
 
   /// Makes the filler directory, or takes over the one an interrupted run left, and locks it. It is taken over only if
   /// it is a real directory on the volume itself, owned by the running user, and holds nothing but filler files and
-  /// empty folders; what the interrupted run left in it is removed. Null with `error` filled otherwise. Then
-  /// nothing was written or removed that no run made; a directory of ours may already have the mode 0700, and where the
-  /// removal failed, part of what the run left is gone.
+  /// empty folders; what the interrupted run left in it is removed. What the path leads to must still be the volume
+  /// that was listed there (`notFound`). Null with `error` filled otherwise. Then nothing was written or removed that
+  /// no run made; a directory of ours may already have the mode 0700, and where the removal failed, part of what the
+  /// run left is gone.
   virtual std::unique_ptr<FillerDirectory> createFillerDirectory(const std::string& volumePath,
                                                                  const std::string& directoryPath, Error& error) = 0;
 

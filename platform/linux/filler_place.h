@@ -20,6 +20,8 @@ class FillerPlace {
 
   [[nodiscard]] const std::string& path() const { return path_; }
   [[nodiscard]] const std::string& volumePath() const { return volumePath_; }
+  /// The volume's root as it was opened.
+  [[nodiscard]] const FileIdentity& root() const { return root_.identity; }
   /// The volume's device number.
   [[nodiscard]] dev_t device() const { return root_.identity.device; }
   /// Where files have no owners of their own and show the mount's owner instead, as on FAT.

@@ -3,12 +3,14 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <sys/sysmacros.h>
 
 #include <algorithm>
 #include <chrono>
 #include <map>
 #include <system_error>
 
+#include "platform/linux/backing_storage.h"
 #include "platform/linux/block_device.h"
 #include "platform/linux/format_description.h"
 #include "platform/linux/patient_question.h"
@@ -93,6 +95,12 @@ Figures figuresOf(const Mount& mount, const LinuxVolumes::ReclaimableBytes& recl
   return {.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes(mount.path),
           .totalBytes = statistics->f_blocks * statistics->f_frsize,
           .readOnly = mount.emergencyReadOnly || (statistics->f_flag & ST_RDONLY) != 0};
+}
+
+/// Btrfs, FUSE and network file systems show other device numbers than the table does, so the mount's own number tells.
+bool isRootOf(const Mount& mount, const FileIdentity& root) {
+  if (root.mountId != 0) return root.mountId == static_cast<std::uint64_t>(mount.id);
+  return major(mount.device) == 0 || root.device == mount.device;
 }
 
 std::string nameOf(const std::string& label, const std::string& mountPath) {
@@ -180,6 +188,36 @@ std::optional<std::string> LinuxVolumes::mountPath(const std::string& name) {
   return identity->path;
 }
 
+Error LinuxVolumes::whyNotListed(const std::string& mountPath, const FileIdentity& root) {
+  const std::optional<Identity> listed = listedAt(mountPath);
+  if (!listed) return {};
+  try {
+    const std::vector<Mount> table = readMountTable(paths_.mountTable);
+    const Mount* mount = MountTree(table).reachedAt(mountPath);
+    if (mount != nullptr && identityOf(*mount) == *listed && isRootOf(*mount, root)) return {};
+  } catch (const std::system_error& error) {
+    return {ErrorCode::other, "look up", mountPath, error.what()};
+  }
+  return {ErrorCode::notFound, "open", mountPath, "it is not the volume that was listed there"};
+}
+
+Error LinuxVolumes::whyTooThin(const std::string& mountPath) {
+  PatientQuestion<std::string> question([mountPath, paths = paths_]() -> std::string {
+    try {
+      const std::vector<Mount> table = readMountTable(paths.mountTable);
+      const Mount* mount = MountTree(table).reachedAt(mountPath);
+      if (mount == nullptr) return {};
+      // Space that is taken back from an interrupted run is allocated below already.
+      const Figures figures = figuresOf(*mount, [](const std::string&) { return std::uint64_t{0}; });
+      return whyStorageIsTooThin(*mount, figures.availableBytes, paths);
+    } catch (const std::system_error&) {
+      return {};
+    }
+  });
+  const std::string why = question.answerBy(endOfPatience()).value_or("");
+  return why.empty() ? Error{} : Error{ErrorCode::thinStorage, "look below", mountPath, why};
+}
+
 LinuxVolumes::Identity LinuxVolumes::identityOf(const Mount& mount) const {
   return {.device = mount.device,
           .type = mount.type,
@@ -191,6 +229,14 @@ LinuxVolumes::Identity LinuxVolumes::identityOf(const Mount& mount) const {
 std::optional<LinuxVolumes::Identity> LinuxVolumes::listedUnder(const std::string& name) {
   const std::scoped_lock lock(mutex_);
   const auto found = std::find_if(named_.begin(), named_.end(), [&](const Named& named) { return named.name == name; });
+  if (found == named_.end()) return {};
+  return found->identity;
+}
+
+std::optional<LinuxVolumes::Identity> LinuxVolumes::listedAt(const std::string& mountPath) {
+  const std::scoped_lock lock(mutex_);
+  const auto found =
+      std::find_if(named_.begin(), named_.end(), [&](const Named& named) { return named.identity.path == mountPath; });
   if (found == named_.end()) return {};
   return found->identity;
 }

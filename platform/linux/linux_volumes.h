@@ -9,21 +9,17 @@
 #include <string>
 #include <vector>
 
+#include "platform/linux/kernel_paths.h"
 #include "platform/linux/mount_table.h"
+#include "platform/linux/volume_knowledge.h"
 #include "ports/disk_lookup.h"
 #include "ports/mounted_volumes.h"
 
 namespace calvero {
 
-/// Where the kernel tells about mounts and devices.
-struct KernelPaths {
-  std::string mountTable = "/proc/self/mountinfo";
-  std::string sysfs = "/sys";
-};
-
 /// Volumes and their names. A volume keeps its name from the first list that it is in until the first list without it,
 /// so that a name leads back to the volume that a person pointed at, whatever came and went since.
-class LinuxVolumes : public MountedVolumes, public DiskLookup {
+class LinuxVolumes : public MountedVolumes, public DiskLookup, public VolumeKnowledge {
  public:
   /// Space on a mounted volume, in bytes, that the next run takes back from what an interrupted one left there.
   using ReclaimableBytes = std::function<std::uint64_t(const std::string& mountPath)>;
@@ -38,6 +34,9 @@ class LinuxVolumes : public MountedVolumes, public DiskLookup {
 
   /// Reads the mount table and at most one file of the device tree; never waits for a disk or a network.
   std::optional<std::string> mountPath(const std::string& name) override;
+
+  Error whyNotListed(const std::string& mountPath, const FileIdentity& root) override;
+  Error whyTooThin(const std::string& mountPath) override;
 
  private:
   /// What stays the same for as long as one file system is mounted at one place, and is different for the next one.
@@ -58,6 +57,7 @@ class LinuxVolumes : public MountedVolumes, public DiskLookup {
   [[nodiscard]] Identity identityOf(const Mount& mount) const;
   [[nodiscard]] bool isEmergencyReadOnly(const std::string& mountPath) const;
   [[nodiscard]] std::optional<Identity> listedUnder(const std::string& name);
+  [[nodiscard]] std::optional<Identity> listedAt(const std::string& mountPath);
 
   void giveNames(std::vector<MountedVolume>& volumes, std::vector<Identity> identities,
                  const std::vector<std::string>& labels);

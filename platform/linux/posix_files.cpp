@@ -12,6 +12,7 @@
 #include "platform/linux/patient_question.h"
 #include "platform/linux/posix_error.h"
 #include "platform/linux/posix_filler_directory.h"
+#include "platform/linux/volume_knowledge.h"
 
 namespace calvero {
 
@@ -58,24 +59,36 @@ Error prepare(const FillerPlace& place, const OpenFolder& directory, const Fille
   return asLocked(error);
 }
 
-Error whyNoFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
+Error whyNoFillerDirectory(const FillerPlace& place) {
   Error error;
-  const auto place = FillerPlace::open(volumePath, directoryPath, error);
-  if (!place) return error;
-  const OpenFolder directory = openUnclaimed(*place, error);
+  const OpenFolder directory = openUnclaimed(place, error);
   if (directory.isOpen()) {
     // Its mode does not matter: taking it over sets it.
     struct statvfs properties = {};
-    if (::fstatvfs(directory.get(), &properties) != 0) return posixError("fstatvfs", directoryPath, errno);
-    if ((properties.f_flag & ST_RDONLY) != 0) return posixError("fstatvfs", directoryPath, EROFS);
-    return directory.identity.locked ? asLocked(posixError("statx", directoryPath, EPERM)) : Error{};
+    if (::fstatvfs(directory.get(), &properties) != 0) return posixError("fstatvfs", place.path(), errno);
+    if ((properties.f_flag & ST_RDONLY) != 0) return posixError("fstatvfs", place.path(), EROFS);
+    return directory.identity.locked ? asLocked(posixError("statx", place.path(), EPERM)) : Error{};
   }
-  Error writable = place->checkWritable();
-  if (error.code == ErrorCode::notPermitted && place->isClosedToUs()) return writable;
+  Error writable = place.checkWritable();
+  if (error.code == ErrorCode::notPermitted && place.isClosedToUs()) return writable;
   if (error.code == ErrorCode::notFound) return writable;
   // Whoever may not write there can neither clear away what is in the way nor have a run of his own there.
   const bool isOutOfReach = error.code == ErrorCode::notOurs && writable.code == ErrorCode::notPermitted;
   return isOutOfReach ? writable : error;
+}
+
+struct VolumeLook {
+  Error error;
+  std::optional<FileIdentity> root;  ///< of what the path leads to, if it could be opened
+};
+
+VolumeLook lookAt(const std::string& volumePath, const std::string& directoryPath) {
+  VolumeLook look;
+  const auto place = FillerPlace::open(volumePath, directoryPath, look.error);
+  if (!place) return look;
+  look.root = place->root();
+  look.error = whyNoFillerDirectory(*place);
+  return look;
 }
 
 }  // namespace
@@ -86,16 +99,29 @@ bool PosixFiles::exists(const std::string& path) {
 }
 
 Error PosixFiles::checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
-  PatientQuestion<Error> question(
-      [volumePath, directoryPath] { return whyNoFillerDirectory(volumePath, directoryPath); });
-  const auto answer = question.answerBy(endOfPatience());
-  return answer.value_or(Error{ErrorCode::gone, "open", volumePath, "it does not answer"});
+  PatientQuestion<VolumeLook> question([volumePath, directoryPath] { return lookAt(volumePath, directoryPath); });
+  const auto look = question.answerBy(endOfPatience());
+  if (!look) return {ErrorCode::gone, "open", volumePath, "it does not answer"};
+  Error error = look->root ? whyNotListed(volumePath, *look->root) : Error{};
+  if (!error.failed()) error = look->error;
+  return error.failed() ? error : whyTooThin(volumePath);
+}
+
+Error PosixFiles::whyNotListed(const std::string& volumePath, const FileIdentity& root) const {
+  return volumes_ == nullptr ? Error{} : volumes_->whyNotListed(volumePath, root);
+}
+
+Error PosixFiles::whyTooThin(const std::string& volumePath) const {
+  return volumes_ == nullptr ? Error{} : volumes_->whyTooThin(volumePath);
 }
 
 std::unique_ptr<FillerDirectory> PosixFiles::createFillerDirectory(const std::string& volumePath,
                                                                    const std::string& directoryPath, Error& error) {
   auto place = FillerPlace::open(volumePath, directoryPath, error);
   if (!place) return nullptr;
+  error = whyNotListed(volumePath, place->root());
+  if (!error.failed()) error = whyTooThin(volumePath);
+  if (error.failed()) return nullptr;
   const bool isNew = place->isFree();
   OpenFolder directory = claimDirectory(*place, IfAbsent::make, moments_, error);
   if (directory.isOpen()) error = prepare(*place, directory, moments_);
@@ -109,6 +135,8 @@ Error PosixFiles::removeFillerDirectory(const std::string& volumePath, const std
   Error error;
   auto place = FillerPlace::open(volumePath, directoryPath, error);
   if (!place) return error;
+  error = whyNotListed(volumePath, place->root());
+  if (error.failed()) return error;
   OpenFolder directory = claimDirectory(*place, IfAbsent::report, moments_, error);
   if (!directory.isOpen()) return error;
   return PosixFillerDirectory(std::move(*place), std::move(directory)).remove();

@@ -2,14 +2,21 @@
 
 #include <utility>
 
+#include "platform/linux/file_identity.h"
 #include "platform/linux/filler_moments.h"
 #include "ports/files.h"
 
 namespace calvero {
 
+class VolumeKnowledge;
+
 class PosixFiles : public Files {
  public:
+  /// Takes every path for the volume that is meant.
   explicit PosixFiles(FillerMoments moments = {}) : moments_(std::move(moments)) {}
+  /// Looks whether a path still leads to the volume that was listed there, and whether that can be filled. `volumes`
+  /// must outlive this object.
+  explicit PosixFiles(VolumeKnowledge& volumes) : volumes_(&volumes) {}
 
   bool exists(const std::string& path) override;
   Error checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) override;
@@ -23,7 +30,11 @@ class PosixFiles : public Files {
   static std::uint64_t bytesInLeftDirectory(const std::string& volumePath, const std::string& directoryPath);
 
  private:
+  [[nodiscard]] Error whyNotListed(const std::string& volumePath, const FileIdentity& root) const;
+  [[nodiscard]] Error whyTooThin(const std::string& volumePath) const;
+
   const FillerMoments moments_;
+  VolumeKnowledge* volumes_ = nullptr;
 };
 
 }  // namespace calvero

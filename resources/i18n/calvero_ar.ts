@@ -328,6 +328,10 @@
         <translation>محرك الأقراص هذا لا يستجيب. تحقق من توصيله، ثم اضغط على «إعادة تحميل محركات الأقراص».</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>تتوفر في وحدة التخزين التي يقوم عليها محرك الأقراص هذا مساحة أقل مما يعرضه. أفسح مساحة فيها، أو حدد محرك أقراص آخر.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>يحتوي محرك الأقراص هذا على مجلد «%1» لم ينشئه Calvero. أعد تسميته أو أزله، ثم حاول مرة أخرى.</translation>
     </message>

@@ -328,6 +328,10 @@ auf: %@</translation>
         <translation>Dieses Laufwerk reagiert nicht. Prüfen Sie die Verbindung und klicken Sie dann auf „Laufwerke neu laden“.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>Der Speicher, auf dem dieses Laufwerk liegt, hat weniger Platz, als das Laufwerk anzeigt. Schaffen Sie dort Platz, oder wählen Sie ein anderes Laufwerk aus.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Dieses Laufwerk enthält einen Ordner „%1“, der nicht von Calvero angelegt wurde. Benennen Sie ihn um oder entfernen Sie ihn und versuchen Sie es dann erneut.</translation>
     </message>

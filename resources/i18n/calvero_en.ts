@@ -328,6 +328,10 @@
         <translation>This drive does not respond. Check its connection, then press &quot;Reload Drives&quot;.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</translation>
     </message>

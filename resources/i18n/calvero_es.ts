@@ -328,6 +328,10 @@ en: %@</translation>
         <translation>Esta unidad no responde. Compruebe su conexión y, a continuación, pulse «Recargar unidades».</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>El almacenamiento en el que se encuentra esta unidad tiene menos espacio del que muestra la unidad. Libere espacio allí o seleccione otra unidad.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Esta unidad contiene una carpeta «%1» que no ha creado Calvero. Cámbiele el nombre o elimínela e inténtelo de nuevo.</translation>
     </message>

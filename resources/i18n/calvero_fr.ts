@@ -328,6 +328,10 @@ sur : %@</translation>
         <translation>Ce lecteur ne répond pas. Vérifiez sa connexion, puis cliquez sur « Actualiser les lecteurs ».</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>Le stockage sur lequel repose ce lecteur a moins de place que ce que le lecteur affiche. Libérez-y de la place ou sélectionnez un autre lecteur.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Ce lecteur contient un dossier « %1 » qui n’a pas été créé par Calvero. Renommez-le ou supprimez-le, puis réessayez.</translation>
     </message>

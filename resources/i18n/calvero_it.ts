@@ -328,6 +328,10 @@ su: %@</translation>
         <translation>Questa unità non risponde. Controlla il collegamento, poi premi «Ricarica unità».</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>L&apos;archivio su cui si trova questa unità ha meno spazio di quanto l&apos;unità mostri. Libera spazio lì oppure seleziona un&apos;altra unità.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Questa unità contiene una cartella «%1» che non è stata creata da Calvero. Rinominala o rimuovila, poi riprova.</translation>
     </message>

@@ -328,6 +328,10 @@
         <translation>このドライブは応答していません。接続を確認し、「ドライブを再読み込み」を押してください。</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>このドライブの元になっているストレージの空きが、ドライブに表示されている容量より少なくなっています。そこに空きを作るか、別のドライブを選択してください。</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>このドライブには、Calvero が作成したものではないフォルダー「%1」があります。名前を変更するか削除してから、もう一度お試しください。</translation>
     </message>

@@ -328,6 +328,10 @@
         <translation>이 드라이브가 응답하지 않습니다. 연결을 확인한 다음 ‘드라이브 새로 고침’을 누르세요.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>이 드라이브가 놓인 저장소의 여유 공간이 드라이브에 표시된 것보다 적습니다. 그곳에 공간을 확보하거나 다른 드라이브를 선택하세요.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>이 드라이브에는 Calvero에서 만들지 않은 ‘%1’ 폴더가 있습니다. 폴더의 이름을 바꾸거나 제거한 다음 다시 시도하세요.</translation>
     </message>

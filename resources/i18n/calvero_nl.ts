@@ -328,6 +328,10 @@ op: %@</translation>
         <translation>Deze schijf reageert niet. Controleer de aansluiting en klik daarna op ‘Schijven opnieuw laden’.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>De opslag waarop deze schijf staat, heeft minder ruimte dan de schijf aangeeft. Maak daar ruimte vrij of kies een andere schijf.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Deze schijf bevat een map ‘%1’ die niet door Calvero is gemaakt. Hernoem of verwijder deze map en probeer het opnieuw.</translation>
     </message>

@@ -328,6 +328,10 @@ na dysku: %@</translation>
         <translation>Ten dysk nie odpowiada. Sprawdź jego podłączenie, a następnie naciśnij „Odśwież dyski”.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>Pamięć masowa, na której znajduje się ten dysk, ma mniej miejsca, niż dysk pokazuje. Zwolnij tam miejsce lub wybierz inny dysk.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Na tym dysku znajduje się folder „%1”, który nie został utworzony przez program Calvero. Zmień jego nazwę lub usuń go i spróbuj ponownie.</translation>
     </message>

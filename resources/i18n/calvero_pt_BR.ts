@@ -328,6 +328,10 @@ em: %@</translation>
         <translation>Esta unidade não responde. Verifique a conexão e pressione “Recarregar unidades”.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>O armazenamento em que esta unidade se encontra tem menos espaço do que a unidade mostra. Libere espaço nele ou selecione outra unidade.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Esta unidade contém uma pasta “%1” que não foi criada pelo Calvero. Renomeie ou remova essa pasta e tente novamente.</translation>
     </message>

@@ -328,6 +328,10 @@ på: %@</translation>
         <translation>Enheten svarar inte. Kontrollera anslutningen och tryck sedan på ”Läs in enheter igen”.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>Lagringen som enheten ligger på har mindre plats än vad enheten visar. Frigör plats där eller välj en annan enhet.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Enheten innehåller en mapp ”%1” som inte har skapats av Calvero. Byt namn på den eller ta bort den och försök sedan igen.</translation>
     </message>

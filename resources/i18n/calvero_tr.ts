@@ -328,6 +328,10 @@ Sürücü: %@</translation>
         <translation>Bu sürücü yanıt vermiyor. Bağlantısını denetleyin, ardından “Sürücüleri Yenile” düğmesine basın.</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>Bu sürücünün bulunduğu depolamada, sürücünün gösterdiğinden daha az yer var. Orada yer açın veya başka bir sürücü seçin.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Bu sürücüde Calvero tarafından oluşturulmamış bir “%1” klasörü var. Klasörü yeniden adlandırın veya kaldırın, ardından yeniden deneyin.</translation>
     </message>

@@ -328,6 +328,10 @@
         <translation>Цей диск не відповідає. Перевірте його під’єднання, а потім натисніть «Оновити диски».</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>Сховище, на якому розташовано цей диск, має менше місця, ніж показує диск. Звільніть там місце або виберіть інший диск.</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>Цей диск містить папку «%1», яку створила не програма Calvero. Перейменуйте або вилучіть її, а потім спробуйте ще раз.</translation>
     </message>

@@ -328,6 +328,10 @@
         <translation>此驱动器没有响应。请检查其连接，然后按“重新加载驱动器”。</translation>
     </message>
     <message>
+        <source>The storage below this drive has less room than the drive shows. Make room there, or select another drive.</source>
+        <translation>此驱动器所在的存储空间小于驱动器显示的空间。请在该处腾出空间，或选择其他驱动器。</translation>
+    </message>
+    <message>
         <source>This drive holds a folder &quot;%1&quot; that was not made by Calvero. Rename or remove it, then try again.</source>
         <translation>此驱动器上有一个并非由 Calvero 创建的文件夹“%1”。请将其重命名或移除，然后重试。</translation>
     </message>

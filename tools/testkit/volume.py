@@ -155,11 +155,12 @@ def _attach(imageDescriptor):
 
 class Volume:
     """A mounted volume. `neededBytes` is what the image may grow to, where the volume itself is larger (sparse).
-    `label` may be bytes; where it holds what cannot be shown the program gives the volume another name."""
+    `label` may be bytes; where it holds what cannot be shown the program gives the volume another name. The image has
+    no name, or stays under `imagePath`, where it may be already."""
 
     _made = 0
 
-    def __init__(self, fs, sizeBytes, neededBytes=None, mkfsOptions=(), label=None):
+    def __init__(self, fs, sizeBytes, neededBytes=None, mkfsOptions=(), label=None, imagePath=None):
         reason = whyUnavailable(fs)
         if reason:
             raise Unavailable(reason)
@@ -169,7 +170,10 @@ class Volume:
         Volume._made += 1
         self.name = f"cv{os.getpid() % 1_000_000}n{Volume._made}"
         self._mounted = False
-        self._image = tempfile.TemporaryFile(dir=_imageFolder(neededBytes or sizeBytes), buffering=0)
+        if imagePath:
+            self._image = open(imagePath, "r+b" if os.path.exists(imagePath) else "w+b", buffering=0)
+        else:
+            self._image = tempfile.TemporaryFile(dir=_imageFolder(neededBytes or sizeBytes), buffering=0)
         self._image.truncate(sizeBytes)
         self._loop, self._device = _attach(self._image.fileno())
         self.path = tempfile.mkdtemp(prefix="calvero-volume-")

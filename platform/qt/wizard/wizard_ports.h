@@ -67,8 +67,8 @@ class WizardPorts {
 
  private:
   PaintingClock clock_;
-  PosixFiles files_;
   LinuxVolumes volumes_;
+  PosixFiles files_{volumes_};
   KernelRandom random_;
   PlistInformationFile informationFile_;
   SessionNotifications systemNotifications_{loop, log};

@@ -40,6 +40,9 @@ std::optional<std::string> refusalText(const Localisation& texts, const Error& e
       return filledIn(texts.localised("This drive holds a folder \"%1\" that an earlier run left and that is locked. "
                                       "Unlock or remove it, then try again."),
                       error.path);
+    case ErrorCode::thinStorage:
+      return texts.localised(
+          "The storage below this drive has less room than the drive shows. Make room there, or select another drive.");
     case ErrorCode::gone:
       return texts.localised("This drive does not respond. Check its connection, then press \"Reload Drives\".");
     case ErrorCode::exists:

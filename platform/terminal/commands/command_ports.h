@@ -51,8 +51,8 @@ class CommandPorts {
   /// Any thread.
   void passOn(const Receiver& receiver, const std::string& text);
 
-  PosixFiles files_;
   LinuxVolumes volumes_;
+  PosixFiles files_{volumes_};
   SyslogLog log_;
   KernelRandom random_;
   NoTags tagStore_;

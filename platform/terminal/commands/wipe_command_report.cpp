@@ -148,6 +148,8 @@ std::string refusalLine(const WipeReport& report, const Error& error) {
     case ErrorCode::locked:
       return printable(error.path) + ", which an earlier run left, may not be changed (" + printable(error.detail) +
              "); unlock it, for example with chattr -i -a, or remove it, and start again";
+    case ErrorCode::thinStorage:
+      return volume + " cannot be filled: " + printable(error.detail) + "; make room below it and start again";
     case ErrorCode::notFound:
       return volume + " is not mounted any more";
     default:

@@ -24,6 +24,7 @@ TEST_F(RefusingWindowSession, RefusesAVolumeThatCannotBeErasedAndSaysWhy) {
                                    Refusal{ErrorCode::busy, "being erased by another process"},
                                    Refusal{ErrorCode::notOurs, "a folder \".$$XE8AQU\" that was not made by Calvero"},
                                    Refusal{ErrorCode::locked, "that an earlier run left and that is locked"},
+                                   Refusal{ErrorCode::thinStorage, "has less room than the drive shows"},
                                    Refusal{ErrorCode::other, "Unknown Error Occured"}}) {
       alertText.clear();
       files.script.failAt(FileCall::checkDirectory, files.script.count(FileCall::checkDirectory) + 1, refusal.code);

@@ -90,6 +90,8 @@ TEST(RefusalLine, SaysWhatToDo) {
   EXPECT_THAT(refusalLine(report, {ErrorCode::notOurs, "openat", "/media/stick/.x", "a symbolic link"}),
               AllOf(HasSubstr("/media/stick/.x"), HasSubstr("a symbolic link"), HasSubstr("move it away")));
   EXPECT_THAT(refusalLine(report, {ErrorCode::notFound, "", "", ""}), HasSubstr("not mounted"));
+  EXPECT_THAT(refusalLine(report, {ErrorCode::thinStorage, "look below", "/media/stick", "its image /a\nb is thin"}),
+              AllOf(HasSubstr("its image /a\\012b is thin"), HasSubstr("make room below it")));
   EXPECT_THAT(refusalLine(report, {ErrorCode::gone, "openat", "/a\nb", "no"}), Not(HasSubstr("\n")));
 }
 
