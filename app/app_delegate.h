@@ -207,6 +207,8 @@ class AppDelegate {
   void setVolumePageTexts();
   void setProgressPageAndSideBarTexts();
   void readRemoteOrder();
+  /// Whether the order is for this volume; logged when only the name says so.
+  [[nodiscard]] bool isOrdered(const MountedVolume& volume) const;
   /// Lists the ordered volume again until its size is known. False when the order has ended without that.
   bool learnsSize();
   void listVolumes();

@@ -18,6 +18,8 @@ struct MountedVolume {
   bool removable = false;
   bool local = true;
   bool readOnly = false;
+  std::string label;  ///< what it would be named if no other volume had the same label
+  std::string uuid;   ///< of the file system, as text; empty where nobody tells
 };
 
 /// The system's mounted volumes.

@@ -3,6 +3,7 @@
 #include "app/app_delegate.h"
 #include "ports/controls.h"
 #include "ports/event_loop.h"
+#include "ports/mounted_volumes.h"
 #include "ports/suite_web.h"
 #include "ports/system_log.h"
 #include "ports/tag_store.h"
@@ -35,6 +36,22 @@ void AppDelegate::readRemoteOrder() {
   order_.cloudInitiation = 1;
   order_.CDriveName = authentication_.GetValueForTag(kTagDrive).value_or("");
   order_.algo = authentication_.GetValueForTag(kTagAlgo).value_or("");
+  const bool isOurs = authentication_.GetValueForTag(kTagNamed) == order_.CDriveName;
+  order_.mountPath = isOurs ? authentication_.GetValueForTag(kTagMountPath).value_or("") : "";
+  order_.volumeUuid = isOurs ? authentication_.GetValueForTag(kTagVolumeUuid).value_or("") : "";
+}
+
+bool AppDelegate::isOrdered(const MountedVolume& volume) const {
+  if (volume.name != order_.CDriveName) return false;
+  // One that did not answer is listed again before it is wiped.
+  const bool hasAnswered = volume.totalBytes != 0;
+  const bool isElsewhere = !order_.mountPath.empty() && volume.mountPath != order_.mountPath;
+  const bool isAnother = !order_.volumeUuid.empty() && volume.uuid != order_.volumeUuid && hasAnswered;
+  if (!isElsewhere && !isAnother) return true;
+  ports_.log.line("the volume " + volume.name + " is not the one that was ordered: it is mounted at " +
+                  volume.mountPath + " with the UUID \"" + volume.uuid + "\", ordered was the one at " +
+                  order_.mountPath + " with the UUID \"" + order_.volumeUuid + "\"");
+  return false;
 }
 
 void AppDelegate::myCloud() {

@@ -13,8 +13,13 @@ namespace calvero {
 constexpr const char* kTagOnline = "cvrOnline";  ///< "1": an order is pending. Never cleared here.
 constexpr const char* kTagDrive = "cvrDrive";    ///< name of the volume to wipe
 constexpr const char* kTagAlgo = "cvrAlgo";      ///< the method, "1" to "9"
-constexpr const char* kTagStatus = "cvrStatus";  ///< written here when a remote run ends
-constexpr const char* kTagCancel = "CVRCANCEL";  ///< "1": cancel the run; reset to "0" here
+// What else tells the volume of an order of our own from another one of that name. They count only while kTagNamed
+// holds the same text as kTagDrive: another program's order leaves them as they are. Empty or absent they say nothing.
+constexpr const char* kTagNamed = "cvrNamed";            ///< the name in kTagDrive when the other two were stored
+constexpr const char* kTagMountPath = "cvrMountPath";    ///< where the volume is mounted
+constexpr const char* kTagVolumeUuid = "cvrVolumeUuid";  ///< of its file system
+constexpr const char* kTagStatus = "cvrStatus";          ///< written here when a remote run ends
+constexpr const char* kTagCancel = "CVRCANCEL";          ///< "1": cancel the run; reset to "0" here
 
 constexpr const char* kStatusFinished = "2";
 constexpr const char* kStatusFailed = "3";  ///< volume missing or vanished, or cancelled
@@ -31,6 +36,8 @@ struct RemoteOrder {
   std::atomic<std::uint8_t> cloudInitiation{0};  ///< remote mode
   std::string CDriveName;                        ///< volume to wipe
   std::string algo;                              ///< ordered method, as text
+  std::string mountPath;                         ///< where the volume must be mounted; empty: anywhere
+  std::string volumeUuid;                        ///< what it must call itself; empty: anything
   std::uint8_t cloudTerm = 0;                    ///< a cancel request of the suite arrived
   TimerId cvrTimer = kNoTimer;                   ///< the cancel poll
 };

@@ -33,7 +33,7 @@ void AppDelegate::listVolumes() {
   const bool remote = order_.cloudInitiation != 0;
   for (const MountedVolume& volume : table->urls) {
     if (!isOffered(volume.formatDescription)) continue;
-    if (remote && volume.name != order_.CDriveName) continue;
+    if (remote && !isOrdered(volume)) continue;
     appendVolume(*table, volume);
   }
   volumes_ = std::move(table);

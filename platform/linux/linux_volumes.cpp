@@ -18,6 +18,7 @@
 #include "platform/linux/reserved_blocks.h"
 #include "platform/linux/volume_label.h"
 #include "platform/linux/volume_names.h"
+#include "platform/linux/volume_uuid.h"
 
 namespace calvero {
 
@@ -65,6 +66,7 @@ std::vector<Mount> mountsOfVolumes(const std::string& tablePath, std::chrono::st
 
 struct Description {
   std::optional<std::string> label;
+  std::string uuid;
   DeviceContent content;
 };
 
@@ -80,10 +82,14 @@ dev_t deviceBehind(const Mount& mount) {
 
 Description descriptionOf(const Mount& mount) {
   Description description;
-  if (answersForItsLabel(mount)) description.label = labelFromFileSystem(mount.path);
+  if (answersForItsLabel(mount)) {
+    description.label = labelFromFileSystem(mount.path);
+    description.uuid = uuidFromFileSystem(mount.path);
+  }
   const dev_t device = deviceBehind(mount);
   const bool isAsked = device != 0 && (!description.label || isDescribedByDevice(mount));
   if (isAsked) description.content = contentOf(device, mount.source);
+  if (description.uuid.empty()) description.uuid = description.content.uuid;
   return description;
 }
 
@@ -153,7 +159,9 @@ std::vector<MountedVolume> LinuxVolumes::mountedVolumes() {
                        .totalBytes = figures.totalBytes,
                        .removable = device != 0 && isOnRemovableDisk(device, paths_.sysfs),
                        .local = !isNetworkFileSystem(mount),
-                       .readOnly = figures.readOnly});
+                       .readOnly = figures.readOnly,
+                       .label = labels.back(),
+                       .uuid = told.uuid});
   }
   giveNames(volumes, std::move(identities), labels);
   return volumes;

@@ -59,7 +59,8 @@ DeviceContent fromDatabase(dev_t device) {
   const std::string encoded = property(entry.get(), "ID_FS_LABEL_ENC");
   return {.label = encoded.empty() ? property(entry.get(), "ID_FS_LABEL") : decodeUdevText(encoded),
           .type = property(entry.get(), "ID_FS_TYPE"),
-          .version = property(entry.get(), "ID_FS_VERSION")};
+          .version = property(entry.get(), "ID_FS_VERSION"),
+          .uuid = property(entry.get(), "ID_FS_UUID")};
 }
 
 bool isDevice(int descriptor, dev_t device) {
@@ -73,11 +74,13 @@ DeviceContent fromDeviceItself(dev_t device, const std::string& devicePath) {
   const std::unique_ptr<blkid_struct_probe, ProbeDeleter> probe(blkid_new_probe());
   if (!probe || blkid_probe_set_device(probe.get(), opened.get(), 0, 0) != 0) return {};
   blkid_probe_enable_superblocks(probe.get(), 1);
-  blkid_probe_set_superblocks_flags(probe.get(), BLKID_SUBLKS_LABEL | BLKID_SUBLKS_TYPE | BLKID_SUBLKS_VERSION);
+  blkid_probe_set_superblocks_flags(probe.get(),
+                                    BLKID_SUBLKS_LABEL | BLKID_SUBLKS_TYPE | BLKID_SUBLKS_VERSION | BLKID_SUBLKS_UUID);
   if (blkid_do_safeprobe(probe.get()) != 0) return {};
   return {.label = found(probe.get(), "LABEL"),
           .type = found(probe.get(), "TYPE"),
-          .version = found(probe.get(), "VERSION")};
+          .version = found(probe.get(), "VERSION"),
+          .uuid = found(probe.get(), "UUID")};
 }
 
 }  // namespace

@@ -13,6 +13,7 @@ struct DeviceContent {
   std::string label;    ///< raw: hostile text
   std::string type;     ///< e.g. "vfat", "ntfs"
   std::string version;  ///< e.g. "FAT32"
+  std::string uuid;
 };
 
 /// The label that the file system mounted at `mountPath` tells, raw; empty when it has none; nothing when it does not

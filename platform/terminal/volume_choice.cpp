@@ -70,6 +70,20 @@ VolumeChoice chooseVolume(const std::string& given, const std::vector<MountedVol
   return index ? VolumeChoice{index, ""} : VolumeChoice{std::nullopt, refusalOf(given, volumes)};
 }
 
+std::string ambiguityOf(const std::string& given, const MountedVolume& chosen,
+                        const std::vector<MountedVolume>& volumes) {
+  if (given != chosen.name || given == chosen.mountPath) return "";
+  std::string places;
+  int found = 0;
+  for (const MountedVolume& volume : volumes) {
+    if (volume.label != chosen.label) continue;
+    places += (found++ == 0 ? "" : ", ") + printable(volume.mountPath);
+  }
+  if (found < 2) return "";
+  return std::to_string(found) + " mounted volumes are called \"" + printable(chosen.label) +
+         "\"; name the one that you mean by its mount path: " + places;
+}
+
 std::optional<std::size_t> numberUpTo(std::size_t count, const std::string& typed) {
   const std::string text = withSingleBlanks(typed);
   std::size_t number = 0;

@@ -55,7 +55,8 @@ TEST_F(RemoteMode, ReadsDriveAndMethodOnlyWhenAnOrderIsPending) {
   world.journal.clear();
   world.order("DATA", "3");
   const AppDelegate& app = world.create();
-  EXPECT_THAT(world.journal.only({"readTag"}), ElementsAre("readTag cvrOnline", "readTag cvrDrive", "readTag cvrAlgo"));
+  EXPECT_THAT(world.journal.only({"readTag"}),
+              ElementsAre("readTag cvrOnline", "readTag cvrDrive", "readTag cvrAlgo", "readTag cvrNamed"));
   EXPECT_EQ(app.order().cloudInitiation, 1);
   EXPECT_EQ(app.CDriveName(), "DATA");
   EXPECT_EQ(app.order().algo, "3");
@@ -94,6 +95,59 @@ TEST_F(RemoteMode, HidesTheWindowAndStartsTheRunWithoutAsking) {
                                          "setText tfElapsedData \" \"", "setText tfElapsedTime \"00:00:00\"",
                                          "setText tfElapsedData \"0.00 KB\"", "sleep 1", "detach", "detach"));
   EXPECT_EQ(app.shell().display, 0);
+}
+
+/// An order that says more of its volume than the name.
+class PinnedOrder : public ::testing::Test {
+ protected:
+  PinnedOrder() {
+    MountedVolume volume;
+    volume.name = "DATA";
+    volume.uuid = "12-34";
+    volume.mountPath = "/media/DATA";
+    volume.formatDescription = "ext4";
+    volume.availableBytes = 40'000;
+    volume.totalBytes = 80'000;
+    world.volume(volume);
+    world.order("DATA", "1");
+  }
+  void pin(const std::string& named, const std::string& mountPath, const std::string& uuid) {
+    world.tags.put("cvrNamed", named);
+    world.tags.put("cvrMountPath", mountPath);
+    world.tags.put("cvrVolumeUuid", uuid);
+  }
+  bool isCarriedOut() {
+    world.tags.put("cvrStatus", "");
+    const bool isListed = !world.create().volumes().volumeNameArray.empty();
+    EXPECT_EQ(world.tags.peek("cvrStatus"), isListed ? "" : "3");
+    return isListed;
+  }
+
+  World world;
+};
+
+TEST_F(PinnedOrder, IsRefusedForAnotherVolumeOfTheSameNameAndSaysWhy) {
+  for (const auto& [path, uuid] : {std::pair("/media/DATA", "56-78"), std::pair("/media/OTHER", "12-34"),
+                                   std::pair("/media/OTHER", ""), std::pair("", "56-78")}) {
+    pin("DATA", path, uuid);
+    world.journal.clear();
+    EXPECT_FALSE(isCarriedOut()) << path << ' ' << uuid;
+    EXPECT_THAT(world.journal.only({"log"}), Contains(::testing::HasSubstr("is not the one that was ordered")));
+    EXPECT_GE(world.loop.terminations(), 1);
+  }
+}
+
+TEST_F(PinnedOrder, IsCarriedOutOnItsVolumeAndComparesNothingThatItDoesNotSay) {
+  for (const auto& [path, uuid] :
+       {std::pair("/media/DATA", "12-34"), std::pair("/media/DATA", ""), std::pair("", "12-34"), std::pair("", "")}) {
+    pin("DATA", path, uuid);
+    EXPECT_TRUE(isCarriedOut()) << path << ' ' << uuid;
+  }
+}
+
+TEST_F(PinnedOrder, LeavesAnotherProgramsOrderAlone) {
+  pin("BACKUP", "/media/BACKUP", "56-78");
+  EXPECT_TRUE(isCarriedOut()) << "it has been replaced by one that says the name alone";
 }
 
 /// A volume that did not answer when it was listed.

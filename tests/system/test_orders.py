@@ -8,6 +8,11 @@ from order_case import FINISH, WAIT_TO_GO, OrderTest
 from testkit import program
 
 
+def pinned(target):
+    """What an order says of its volume beside the name."""
+    return {"cvrNamed": target.name, "cvrMountPath": target.path, "cvrVolumeUuid": target.uuid()}
+
+
 class Order(OrderTest):
     def order(self, target, *arguments, method="3"):
         return self.runProgram("order", target.path, "--method", method, *arguments)
@@ -33,7 +38,7 @@ class Order(OrderTest):
                 self.assertEqual(self.waitForStart(), f"cvrOnline=1 cvrDrive={target.name} cvrAlgo={number} cvrStatus="
                                                       " CVRCANCEL=")
                 self.assertEqual(self.tags(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": number,
-                                               "cvrStatus": "", "CVRCANCEL": ""})
+                                               "cvrStatus": "", "CVRCANCEL": ""} | pinned(target))
                 os.remove(self.file("started"))
                 self.assertEqual(self.runProgram("clear").returncode, program.EXIT_FINISHED)
 
@@ -43,7 +48,20 @@ class Order(OrderTest):
         self.setOrder("another volume", "8", cvrStatus="3", CVRCANCEL="1", LANG="de")
         self.assertEqual(self.order(target).returncode, program.EXIT_FINISHED)
         self.assertEqual(self.tags(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "3", "cvrStatus": "",
-                                       "CVRCANCEL": "", "LANG": "de"})
+                                       "CVRCANCEL": "", "LANG": "de"} | pinned(target))
+
+    def testByALabelThatTwoVolumesCarryIsRefusedAndTakenByTheMountPath(self):
+        self.standIn("")
+        targets = [self.makeVolume(label="twice", mebibytes=16) for _ in range(2)]
+        for name in ("twice", "twice 1"):
+            self.assertRefused(self.runProgram("order", name, "--method", "1"), "mount path",
+                               *(target.path for target in targets))
+        self.assertNothingOrdered()
+        self.assertEqual(self.order(targets[1]).returncode, program.EXIT_FINISHED)
+        tags = self.tags()
+        self.assertEqual((tags["cvrMountPath"], tags["cvrVolumeUuid"]), (targets[1].path, targets[1].uuid()))
+        status = self.statusOf()
+        self.assertEqual((status["mountPath"], status["volumeUuid"]), (targets[1].path, targets[1].uuid()))
 
     def testIsRefusedWhereAWipeWouldBe(self):
         self.standIn("")

@@ -65,7 +65,8 @@ class OrdersOfOthers(OrderTest):
     def testTheStatusFollowsTheRun(self):
         target = self.makeVolume()
         self.setOrder(target.name, "9")
-        expected = {"pending": True, "volume": target.name, "method": 9, "running": False, "cancelAsked": False,
+        expected = {"pending": True, "volume": target.name, "method": 9, "mountPath": None, "volumeUuid": None,
+                    "running": False, "cancelAsked": False,
                     "status": None, "outcome": "none"}
         self.assertEqual(self.statusOf(), expected)
         end = self.hold(target)
@@ -186,7 +187,8 @@ class WithoutVolumes(OrderTest):
 
     def testWithoutAnOrderThereIsNothingToShowToCancelOrToRemove(self):
         self.assertEqual(self.runProgram("status").stdout, "Order:  none\nRun:    none\nStatus: none\n")
-        self.assertEqual(self.statusOf(), {"pending": False, "volume": None, "method": None, "running": False,
+        self.assertEqual(self.statusOf(), {"pending": False, "volume": None, "method": None, "mountPath": None,
+                                           "volumeUuid": None, "running": False,
                                            "cancelAsked": False, "status": None, "outcome": "none"})
         self.assertRefused(self.runProgram("cancel"), "no order")
         self.assertRefused(self.runProgram("cancel", "--wait"), "no order")

@@ -38,9 +38,24 @@ class OrderCommand(RemoteTest):
         code, output, errors = self.complete("order", target.name, "--method", "dod", "--wait")
         self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
         self.assertIn("Finished", output.splitlines()[-1])
-        self.assertEqual(self.order.tags.read(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "3",
-                                                  "cvrStatus": FINISHED, "CVRCANCEL": ""})
+        self.assertEqual(self.order.tags.read(), {
+            "cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "3", "cvrStatus": FINISHED, "CVRCANCEL": "",
+            "cvrNamed": target.name, "cvrMountPath": target.path, "cvrVolumeUuid": target.uuid()})
         self.assertNothingLeft(target)
+
+    def testAnOrderIsRefusedForAnotherVolumeOfTheSameNameAtTheSamePlace(self):
+        target, other = (self.makeVolume("ext4", 16, label="same") for _ in range(2))
+        other.unmount()
+        code, output, errors = self.complete("order", "same", "--method", "1", "--wait")
+        self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
+        target.unmount()
+        other.mountInPlaceOf(target)
+        self.order.tags.set(cvrStatus="")
+        before = os.stat(other.path).st_mtime_ns
+        self.order.start([self.windowProgram])  # the order is still pending, as at the next log-in
+        self.assertEqual(self.order.waitForStatus()[0], FAILED)
+        self.assertEqual(self.order.waitForEnd()[0], program.EXIT_FAILED)
+        self.assertEqual(os.stat(other.path).st_mtime_ns, before, "something was made on the other volume")
 
     def testAWaitTellsACancelWhichIsFollowedAtOnce(self):
         target = self.makeVolume("ext4", 256)

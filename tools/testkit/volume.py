@@ -204,6 +204,11 @@ class Volume:
         self.path = path
         self.mount()
 
+    def mountInPlaceOf(self, other):
+        """Both are unmounted; they change places."""
+        self.path, other.path = other.path, self.path
+        self.mount()
+
     def noteUnmounted(self):
         """Somebody else has unmounted it."""
         self._mounted = False
@@ -237,6 +242,11 @@ class Volume:
             return 0
         figures = os.statvfs(self.path)
         return (figures.f_bfree - figures.f_bavail) * figures.f_frsize
+
+    def uuid(self):
+        """The file system's own, as its superblock has it."""
+        return subprocess.run(["blkid", "-p", "-o", "value", "-s", "UUID", self._device], check=True, text=True,
+                              stdout=subprocess.PIPE, env=os.environ | {"PATH": _SEARCH_PATH}).stdout.strip()
 
     def isReadOnly(self):
         return bool(os.statvfs(self.path).f_flag & os.ST_RDONLY)

@@ -23,7 +23,14 @@ Answer clearOrder(OrderTags& tags, const RunLookup& isUnderWay) {
     // The store forgets no tag; an empty value means as little as none.
     return {{ExitCode::finished,
              order.exists() ? "The order for " + name + " is removed." : "What was left of an order is removed."},
-            {{kTagOnline, "0"}, {kTagDrive, ""}, {kTagAlgo, ""}, {kTagCancel, ""}, {kTagStatus, ""}}};
+            {{kTagOnline, "0"},
+             {kTagDrive, ""},
+             {kTagAlgo, ""},
+             {kTagCancel, ""},
+             {kTagStatus, ""},
+             {kTagNamed, ""},
+             {kTagMountPath, ""},
+             {kTagVolumeUuid, ""}}};
   });
 }
 

@@ -35,6 +35,9 @@ std::vector<TagValue> tagsOf(const NewOrder& order) {
           {kTagCancel, ""},
           {kTagDrive, order.volume},
           {kTagAlgo, std::to_string(order.method + 1)},
+          {kTagMountPath, order.mountPath},
+          {kTagVolumeUuid, order.volumeUuid},
+          {kTagNamed, order.volume},
           {kTagOnline, "1"}};
 }
 
@@ -72,6 +75,10 @@ class OrderCommand {
     const MountedVolume& volume = volumes[*choice.index];
     order_.volume = volume.name;
     order_.mountPath = volume.mountPath;
+    order_.volumeUuid = volume.uuid;
+    if (const std::string others = ambiguityOf(request_.volume, volume, volumes); !others.empty()) {
+      return {ExitCode::refused, others};
+    }
     Error error = runs_.check(volume.name);
     if (!error.failed() && volume.readOnly) error.code = ErrorCode::readOnly;
     if (!error.failed()) return {};

@@ -15,6 +15,7 @@ struct NewOrder {
   std::string mountPath;
   std::int32_t method = 0;  ///< 0 to 8
   std::string program;      ///< the window program's path
+  std::string volumeUuid;   ///< empty where nobody tells it
 };
 
 /// The volume as a person reads it.

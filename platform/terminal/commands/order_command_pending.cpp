@@ -18,7 +18,10 @@ PendingOrder readPendingOrder(OrderTags& tags) {
           .volume = tags.value(kTagDrive),
           .method = tags.value(kTagAlgo),
           .status = tags.value(kTagStatus),
-          .cancel = tags.value(kTagCancel)};
+          .cancel = tags.value(kTagCancel),
+          .named = tags.value(kTagNamed),
+          .mountPath = tags.value(kTagMountPath),
+          .volumeUuid = tags.value(kTagVolumeUuid)};
 }
 
 Answer changeOrder(OrderTags& tags, const std::function<OrderChange(const PendingOrder& order)>& decide) {
@@ -29,7 +32,10 @@ Answer changeOrder(OrderTags& tags, const std::function<OrderChange(const Pendin
                                                         {kTagDrive, seen.volume},
                                                         {kTagAlgo, seen.method},
                                                         {kTagStatus, seen.status},
-                                                        {kTagCancel, seen.cancel}})) {
+                                                        {kTagCancel, seen.cancel},
+                                                        {kTagNamed, seen.named},
+                                                        {kTagMountPath, seen.mountPath},
+                                                        {kTagVolumeUuid, seen.volumeUuid}})) {
       return change.answer;
     }
   }

@@ -17,7 +17,12 @@ struct PendingOrder {
   std::string method;  ///< as it was ordered; see `orderedMethod`
   std::string status;
   std::string cancel;
+  std::string named;       ///< what `volume` was when the next two were stored
+  std::string mountPath;   ///< see `isPinned`
+  std::string volumeUuid;  ///< likewise
 
+  /// Whether the order says more of its volume than the name.
+  [[nodiscard]] bool isPinned() const { return exists() && named == volume; }
   [[nodiscard]] bool isPending() const;
   [[nodiscard]] bool exists() const { return isPending() || !volume.empty(); }
   /// A run has reported its end. Says nothing for an order whose writer left an old status in the store.

@@ -42,6 +42,10 @@ std::string statusText(const PendingOrder& order, RunState run) {
   } else {
     text += "none\n";
   }
+  if (order.isPinned()) {
+    if (!order.mountPath.empty()) text += "Place:  " + printable(order.mountPath) + '\n';
+    if (!order.volumeUuid.empty()) text += "UUID:   " + printable(order.volumeUuid) + '\n';
+  }
   text += std::string("Run:    ") + (run == RunState::underWay ? "under way" : "none") + '\n';
   if (order.cancel == "1") text += "Cancel: asked for\n";
   return text + "Status: " + (order.exists() || order.hasEnded() ? statusInWords(order.status) : "none") + '\n';
@@ -51,6 +55,11 @@ std::string statusJson(const PendingOrder& order, RunState run) {
   nlohmann::ordered_json json{{"pending", order.isPending()}};
   json["volume"] = order.exists() ? nlohmann::ordered_json(order.volume) : nullptr;
   json["method"] = order.exists() ? nlohmann::ordered_json(orderedMethod(order) + 1) : nullptr;
+  const auto pinned = [&order](const std::string& text) {
+    return order.isPinned() && !text.empty() ? nlohmann::ordered_json(text) : nullptr;
+  };
+  json["mountPath"] = pinned(order.mountPath);
+  json["volumeUuid"] = pinned(order.volumeUuid);
   json["running"] = run == RunState::underWay;
   json["cancelAsked"] = order.cancel == "1";
   const std::string word = statusWord(order.status);

@@ -39,19 +39,19 @@ TEST(FormatDescription, ShowsAnUnknownTypeAsItStands) {
 }
 
 TEST(FormatDescription, NamesAFatByItsVersionWhereThatIsKnown) {
-  EXPECT_EQ(described("vfat", {.label = "", .type = "vfat", .version = "FAT16"}), "FAT16");
-  EXPECT_EQ(described("vfat", {.label = "", .type = "vfat", .version = "1.0"}), "FAT32");
+  EXPECT_EQ(described("vfat", {.label = "", .type = "vfat", .version = "FAT16", .uuid = ""}), "FAT16");
+  EXPECT_EQ(described("vfat", {.label = "", .type = "vfat", .version = "1.0", .uuid = ""}), "FAT32");
   EXPECT_EQ(described("vfat"), "FAT32");
 }
 
 TEST(FormatDescription, TellsADriversFuseFileSystemByWhatTheDeviceHolds) {
-  EXPECT_EQ(described("fuseblk", {.label = "", .type = "ntfs", .version = ""}), "NTFS");
-  EXPECT_EQ(described("fuseblk", {.label = "", .type = "exfat", .version = "1.0"}), "exFAT");
+  EXPECT_EQ(described("fuseblk", {.label = "", .type = "ntfs", .version = "", .uuid = ""}), "NTFS");
+  EXPECT_EQ(described("fuseblk", {.label = "", .type = "exfat", .version = "1.0", .uuid = ""}), "exFAT");
   EXPECT_EQ(described("fuseblk"), "fuseblk");
 }
 
 TEST(FormatDescription, DoesNotLetTheDeviceSpeakForADriverOfTheKernel) {
-  EXPECT_EQ(described("ext4", {.label = "", .type = "ntfs", .version = "FAT16"}), "ext4");
+  EXPECT_EQ(described("ext4", {.label = "", .type = "ntfs", .version = "FAT16", .uuid = ""}), "ext4");
 }
 
 TEST(NetworkFileSystem, IsToldByTypeOrAddress) {

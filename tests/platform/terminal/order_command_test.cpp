@@ -22,12 +22,14 @@ using testing::Journal;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-constexpr const char* kStored = "store cvrStatus= CVRCANCEL= cvrDrive=stick cvrAlgo=3 cvrOnline=1";
+constexpr const char* kStored =
+    "store cvrStatus= CVRCANCEL= cvrDrive=stick cvrAlgo=3 cvrMountPath=/media/stick cvrVolumeUuid=12-34 cvrNamed=stick "
+    "cvrOnline=1";
 
 class PlaceOrder : public ::testing::Test {
  protected:
   PlacedOrder place() {
-    return placeOrder({"stick", "/media/stick", 2, "/opt/calvero"}, tags_, runs_.lookup(),
+    return placeOrder({"stick", "/media/stick", 2, "/opt/calvero", "12-34"}, tags_, runs_.lookup(),
                       [this](const std::string& path) {
                         journal_.add("start " + path);
                         if (!starts_) throw std::system_error(ENOEXEC, std::generic_category(), path);

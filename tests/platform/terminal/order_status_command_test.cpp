@@ -10,9 +10,17 @@ namespace calvero {
 namespace {
 
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 PendingOrder orderOf(const std::string& volume, const std::string& method, const std::string& status = "") {
-  return {.online = "1", .volume = volume, .method = method, .status = status, .cancel = ""};
+  return {.online = "1",
+          .volume = volume,
+          .method = method,
+          .status = status,
+          .cancel = "",
+          .named = "",
+          .mountPath = "",
+          .volumeUuid = ""};
 }
 
 nlohmann::json jsonOf(const PendingOrder& order, RunState run = RunState::none) {
@@ -38,6 +46,19 @@ TEST(StatusText, IsThreeLines) {
             "Order:  \"stick\" with method 3 (dod), pending\nRun:    under way\nStatus: none yet\n");
 }
 
+TEST(StatusText, TellsWhereTheOrderedVolumeIsAndWhatItCallsItselfWhereTheOrderSaysSo) {
+  PendingOrder order = orderOf("stick", "3");
+  order.mountPath = "/media/a\nb";
+  order.volumeUuid = "12-34";
+  order.named = "disk";
+  EXPECT_THAT(statusText(order, RunState::none), Not(HasSubstr("12-34"))) << "that was another order";
+  EXPECT_TRUE(jsonOf(order)["mountPath"].is_null());
+  order.named = "stick";
+  EXPECT_THAT(statusText(order, RunState::none), HasSubstr(", pending\nPlace:  /media/a\\012b\nUUID:   12-34\nRun:"));
+  EXPECT_EQ(jsonOf(order)["mountPath"], "/media/a\nb");
+  EXPECT_EQ(jsonOf(order)["volumeUuid"], "12-34");
+}
+
 TEST(StatusText, SaysTheStatusInWordsAndAsANumber) {
   EXPECT_THAT(statusText(orderOf("stick", "3", "2"), RunState::none), HasSubstr("Status: 2, finished\n"));
   EXPECT_THAT(statusText(orderOf("stick", "3", "3"), RunState::none), HasSubstr("Status: 3, not finished: "));
@@ -45,7 +66,7 @@ TEST(StatusText, SaysTheStatusInWordsAndAsANumber) {
 
 TEST(StatusText, TellsOfARequestToCancel) {
   PendingOrder order = orderOf("stick", "3");
-  EXPECT_THAT(statusText(order, RunState::underWay), testing::Not(HasSubstr("Cancel")));
+  EXPECT_THAT(statusText(order, RunState::underWay), Not(HasSubstr("Cancel")));
   order.cancel = "1";
   EXPECT_THAT(statusText(order, RunState::underWay), HasSubstr("\nCancel: asked for\n"));
 }
@@ -68,15 +89,20 @@ TEST(StatusText, KeepsAnOrderThatIsNotPendingApart) {
 }
 
 TEST(StatusJson, IsNullWhereThereIsNoOrder) {
-  EXPECT_EQ(jsonOf({}), nlohmann::json::parse(R"({"pending": false, "volume": null, "method": null, "running": false,
+  EXPECT_EQ(
+      jsonOf({}),
+      nlohmann::json::parse(
+          R"({"pending": false, "volume": null, "method": null, "mountPath": null, "volumeUuid": null, "running": false,
       "cancelAsked": false, "status": null, "outcome": "none"})"));
 }
 
 TEST(StatusJson, GivesTheOrderItsRunAndItsStatus) {
   PendingOrder order = orderOf("stick", "9", "3");
   order.cancel = "1";
-  EXPECT_EQ(jsonOf(order, RunState::underWay),
-            nlohmann::json::parse(R"({"pending": true, "volume": "stick", "method": 9, "running": true,
+  EXPECT_EQ(
+      jsonOf(order, RunState::underWay),
+      nlohmann::json::parse(
+          R"({"pending": true, "volume": "stick", "method": 9, "mountPath": null, "volumeUuid": null, "running": true,
       "cancelAsked": true, "status": 3, "outcome": "failed"})"));
 }
 

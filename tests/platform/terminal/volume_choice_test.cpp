@@ -91,5 +91,15 @@ TEST(NumberUpTo, AcceptsTheOfferedNumbersOnly) {
   }
 }
 
+TEST(AmbiguousVolume, IsOneThatIsNamedByALabelThatAnotherCarries) {
+  std::vector<MountedVolume> volumes{volume("stick", "/media/a"), volume("stick 1", "/media/b"), volume("disk", "/c")};
+  for (MountedVolume& one : volumes) one.label = one.name == "disk" ? "disk" : "stick";
+  EXPECT_THAT(ambiguityOf("stick", volumes[0], volumes),
+              AllOf(HasSubstr("\"stick\""), HasSubstr("mount path: /media/a, /media/b")));
+  EXPECT_NE(ambiguityOf("stick 1", volumes[1], volumes), "");
+  EXPECT_EQ(ambiguityOf("/media/a", volumes[0], volumes), "");
+  EXPECT_EQ(ambiguityOf("disk", volumes[2], volumes), "");
+}
+
 }  // namespace
 }  // namespace calvero

@@ -12,7 +12,7 @@ using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 MountedVolume stick() {
-  return {"stick", "/media/a\nb", "FAT32", 1'500'000, 4'000'000'000, true, true, false};
+  return {"stick", "/media/a\nb", "FAT32", 1'500'000, 4'000'000'000, true, true, false, "stick", ""};
 }
 
 TEST(VolumesTable, ShowsSizesForPeopleAndNoControlCharacters) {
