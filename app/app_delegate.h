@@ -153,7 +153,7 @@ class AppDelegate {
   void wipeFreeSpace(WipeRun& run);
   void createFile(WipeRun& run);
   [[nodiscard]] std::uint64_t getNumbOfFiles(const WipeRun& run) const;
-  void fillFilePath(WipeRun& run, const std::string& path, std::uint64_t size);
+  FillEnd fillFilePath(WipeRun& run, const std::string& path, std::uint64_t size);
   void deleteByFiles(WipeRun& run, std::uint64_t index);
   /// Gives back all space and removes the filler directory; ends a finished remote run. Worker thread at the end of a
   /// run, a thread of its own on a cancel.
@@ -228,11 +228,19 @@ class AppDelegate {
   /// Ends a run that the program itself cannot go on with.
   void giveUp(WipeRun& run, const std::exception& error);
   void makeFillerDirectory(WipeRun& run, const std::string& volumePath);
+  /// Whether the file was made; otherwise the reason is noted.
+  bool makeFillerFile(WipeRun& run, FillerDirectory* directory, const std::string& path);
+  /// One more file behind the last one, where that has found room to its end and more is left: somebody has freed space
+  /// meanwhile.
+  void followLastFile(WipeRun& run, FillEnd lastEnd);
   void finishRun(WipeRun& run);
   void removeFillerDirectory(WipeRun& run, const std::string& volumePath);
   void reportRemoteCompletion(WipeRun& run);
   /// For the log: a face that is looked at tells a person in its own words.
   void logFaults(const WipeRun& run) const;
+  void logGrade(const WipeRun& run) const;
+  /// Tells whoever ordered the run how it has ended.
+  void reportToOrderer(const WipeRun& run, RunOutcome outcome);
   void setPhase(WipeRun& run, const std::string& key);
   /// Removes the filler files on a thread of its own, while events are served.
   void removeFilesAside(const RunPtr& run);

@@ -83,7 +83,7 @@ void AppDelegate::setHideIBObjectsAtLaunch() {
 void AppDelegate::reportUnknownError(WipeRun& run) {
   run.end(RunOutcome::failed);
   if (order_.cloudInitiation != 0) {
-    authentication_.SetValueForTag(kTagStatus, kStatusFailed);
+    reportToOrderer(run, RunOutcome::failed);
   } else {
     run.screen.runModal({localised("Information"), localised("Unknown Error Occured"),
                          localised("Relaunch the application"), localised("")});

@@ -11,7 +11,9 @@ enum class ErrorCode {
   exists,        ///< the name is taken
   notPermitted,  ///< the process may not do this
   readOnly,      ///< the file system is read-only, or has just turned so
-  full,          ///< no space left, or the user's quota is used up: the normal end of a fill
+  full,          ///< no space left: the normal end of a fill
+  overQuota,     ///< the quota is used up; there may be room for others
+  storageFull,   ///< the storage under the volume is full: what the volume had taken was dropped
   busy,          ///< another run holds the filler directory
   notOurs,       ///< the filler directory's name leads to something that a run did not make
   locked,        ///< a filler directory that an earlier run left may not be changed

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -73,6 +74,10 @@ class FillerDirectory {
   /// were. Where the limit of open files forbids that, the name stays and keeps the space, which is a success; so it
   /// does where the file cannot be opened for another reason, which is reported.
   virtual Error removeItem(const std::string& path) = 0;
+
+  /// Bytes of the volume that this process can fill now; nothing when that cannot be read. Blocks while the system is
+  /// asked.
+  virtual std::optional<std::uint64_t> availableBytes() = 0;
 
   /// Bytes of written files whose space was lost before it was released: another program has removed or replaced a
   /// name that kept it. Grows in `releaseSpace` and `remove`, which look.

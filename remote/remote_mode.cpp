@@ -7,6 +7,7 @@
 #include "ports/suite_web.h"
 #include "ports/system_log.h"
 #include "ports/tag_store.h"
+#include "remote/order_result.h"
 
 namespace calvero {
 namespace {
@@ -89,6 +90,14 @@ void AppDelegate::checkForTermination() {
   // The poll never stops by itself, not even after a cancel; it ends with the application.
   order_.cvrTimer =
       ports_.eventLoop.startTimer(kCancelPollInterval, TimerKind::repeating, [this] { checkForTermination(); });
+}
+
+void AppDelegate::reportToOrderer(const WipeRun& run, RunOutcome outcome) {
+  const RunAccount account = run.account();
+  authentication_.SetValueForTag(
+      kTagResult,
+      resultTag({.outcome = outcome, .grade = gradeOf(account), .account = account, .cause = run.cause().code}));
+  authentication_.SetValueForTag(kTagStatus, outcome == RunOutcome::finished ? kStatusFinished : kStatusFailed);
 }
 
 void AppDelegate::cancelProcess() {

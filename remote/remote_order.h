@@ -19,6 +19,7 @@ constexpr const char* kTagNamed = "cvrNamed";            ///< the name in kTagDr
 constexpr const char* kTagMountPath = "cvrMountPath";    ///< where the volume is mounted
 constexpr const char* kTagVolumeUuid = "cvrVolumeUuid";  ///< of its file system
 constexpr const char* kTagStatus = "cvrStatus";          ///< written here when a remote run ends
+constexpr const char* kTagResult = "cvrResult";          ///< written here just before the status; see order_result.h
 constexpr const char* kTagCancel = "CVRCANCEL";          ///< "1": cancel the run; reset to "0" here
 
 constexpr const char* kStatusFinished = "2";

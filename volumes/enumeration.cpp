@@ -41,7 +41,7 @@ void AppDelegate::listVolumes() {
 
 void AppDelegate::endOrderWithoutVolume() {
   if (order_.cloudInitiation == 0 || !volumes_->volumeNameArray.empty()) return;
-  authentication_.SetValueForTag(kTagStatus, kStatusFailed);
+  reportToOrderer(*run_, RunOutcome::failed);
   ports_.eventLoop.terminate();
 }
 

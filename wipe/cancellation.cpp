@@ -98,7 +98,8 @@ void AppDelegate::returnToFirstPageAfterCancel() {
 void AppDelegate::endCancelledRemoteRun() {
   cancelWait_ = CancelWait::tellingTheAbort;  // events may be served meanwhile, and another cancel among them
   popUp(kOrange, "Remote Wiping Process has been aborted.");
-  authentication_.SetValueForTag(kTagStatus, kStatusFailed);
+  // "3" also for a run that came to its end under the cancel.
+  reportToOrderer(*run_, run_->outcome == RunOutcome::failed ? RunOutcome::failed : RunOutcome::cancelled);
   ports_.controls.selectPage(Page::volume);
   ports_.clock.sleep(kTimeToReadOfTheAbort);
   ports_.eventLoop.terminate();

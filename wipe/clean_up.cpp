@@ -60,7 +60,8 @@ void AppDelegate::removeFillerDirectory(WipeRun& run, const std::string& volumeP
   Error error;
   if (const auto directory = run.directory()) {
     directory->releaseSpace();
-    if (const std::uint64_t bytes = directory->bytesNotKept(); bytes != 0 && run.notKeptTold.exchange(1) == 0) {
+    run.counters.bytesNotHeld = directory->bytesNotKept();
+    if (const std::uint64_t bytes = run.counters.bytesNotHeld; bytes != 0 && run.notKeptTold.exchange(1) == 0) {
       ports_.log.notice(
           getFormattedStringForSize(bytes) +
           " were not held until the end of the run, since another program removed filler files: as much of what was "
@@ -72,23 +73,33 @@ void AppDelegate::removeFillerDirectory(WipeRun& run, const std::string& volumeP
   }
   run.noteRemoval(error);
   if (!error.failed() || error.code == ErrorCode::notFound) return;
-  ports_.log.line(error.text());
   // Some file systems keep an entry while the worker still has its file open; it removes the directory when it ends.
-  if (!run.stopRequested() || meansLostVolume(error.code)) run.noteFault(error);
+  ports_.log.line(error.text());
   if (!meansLostVolume(error.code)) return;
+  run.noteFault(error);
   run.volumeEjected = 1;
   run.abortErasing = 1;
   run.end(RunOutcome::failed);
 }
 
 void AppDelegate::logFaults(const WipeRun& run) const {
-  if (run.faults() == 0 || run.isFlawedByRemainsOnly()) return;
+  if (run.faults() == 0) return;
   ports_.log.line(std::to_string(run.faults()) +
                   " failures, so that deleted data may remain readable; the first one: " + run.firstFault().text());
 }
 
+void AppDelegate::logGrade(const WipeRun& run) const {
+  const RunAccount account = run.account();
+  const RunGrade grade = gradeOf(account);
+  if (grade == RunGrade::nothing) ports_.log.line("nothing was overwritten: this method writes no data");
+  if (grade != RunGrade::partial) return;
+  ports_.log.line("partial: of " + std::to_string(account.freeAtStart) + " bytes that were free " +
+                  std::to_string(account.overwritten()) + " have been overwritten; deleted data may remain readable");
+}
+
 void AppDelegate::reportRemoteCompletion(WipeRun& run) {
   logFaults(run);
+  logGrade(run);
   popUp(kGreen, withVolumeName(localised("Your admin successfuly completed\n Calvero on:%@"), order_.CDriveName));
   ports_.clock.sleep(kTimeToReadOfTheEnd);
   if (!run.claimStatus(StatusTeller::worker)) {
@@ -96,7 +107,7 @@ void AppDelegate::reportRemoteCompletion(WipeRun& run) {
     return;
   }
   run.end(RunOutcome::finished);
-  authentication_.SetValueForTag(kTagStatus, kStatusFinished);
+  reportToOrderer(run, RunOutcome::finished);
   endApplication(run);
 }
 

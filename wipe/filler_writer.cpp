@@ -4,13 +4,28 @@
 #include "ports/controls.h"
 #include "ports/files.h"
 #include "wipe/block_plan.h"
+#include "wipe/lost_volume.h"
 
 namespace calvero {
 namespace {
 
 // A full volume is how a fill ends, and a cancel takes the file away under the writer: neither is a fault.
-void noteIfFault(WipeRun& run, const Error& error) {
+void noteFailedWrite(WipeRun& run, const Error& error) {
   if (error.failed() && error.code != ErrorCode::full && !run.stopRequested()) run.noteFault(error);
+}
+
+/// What had been taken was dropped. Where the reason lies under the volume each further write would drop more, the file
+/// system's own metadata among it, until it cannot be mounted any more. Whether the run goes on.
+bool survivesFlush(WipeRun& run, Error error) {
+  if (!error.failed() || run.stopRequested()) return true;
+  if (error.code == ErrorCode::full) error.code = ErrorCode::storageFull;
+  const bool isUnderneath = error.code == ErrorCode::storageFull || error.code == ErrorCode::overQuota;
+  if (isUnderneath || meansLostVolume(error.code)) {
+    run.failBy(error);
+    return false;
+  }
+  run.noteFault(error);
+  return true;
 }
 
 /// Writes all passes of one block after the other, each flushed to the medium before the next.
@@ -21,26 +36,29 @@ class BlockWriter {
         run_(run),
         file_(file),
         passes_(app.methodChoice().numPassSelected),
-        method_(app.methodChoice().eraseMethodSelected) {}
+        method_(app.methodChoice().eraseMethodSelected) {
+    run.counters.passes = passes_;
+  }
 
-  /// Every pass is attempted whatever became of the one before. Whether all writes succeeded.
+  /// Every pass is attempted whatever became of the writes before. Whether all writes succeeded.
   bool writeBlock(std::uint64_t offset) {
     std::int64_t covered = passes_ > 0 ? kBlockBytes : 0;
-    for (std::int32_t pass = 0; pass < passes_; ++pass) {
+    for (std::int32_t pass = 0; pass < passes_ && goesOn_; ++pass) {
       covered = std::min(covered, writePass(pass, offset, kBlockBytes));
     }
     noteCovered(covered);
     return covered >= 0;
   }
 
-  /// Failed writes are passed over, and a stop request is heeded between two passes.
-  void writeLastBlock(std::uint64_t offset, std::int32_t bytes) {
+  /// Failed writes are passed over, and a stop request is heeded between two passes. Whether all writes succeeded.
+  bool writeLastBlock(std::uint64_t offset, std::int32_t bytes) {
     std::int64_t covered = passes_ > 0 ? bytes : 0;
     for (std::int32_t pass = 0; pass < passes_; ++pass) {
-      if (run_.abortErasing != 0) return;
+      if (run_.abortErasing != 0) return false;
       covered = std::min(covered, writePass(pass, offset, bytes));
     }
     noteCovered(covered);
+    return covered > 0;
   }
 
  private:
@@ -48,9 +66,9 @@ class BlockWriter {
   std::int64_t writePass(std::int32_t pass, std::uint64_t offset, std::int32_t bytes) {
     current_ = app_.fillBuffer(current_, kBlockBytes, method_, pass);
     const WriteResult result = file_.pwrite(current_, static_cast<std::size_t>(bytes), offset);
-    noteIfFault(run_, result.error);
+    noteFailedWrite(run_, result.error);
     const Error flushed = file_.fsync();
-    noteIfFault(run_, flushed);
+    goesOn_ = survivesFlush(run_, flushed);
     if (result.bytes > 0) run_.counters.bytesWritten += static_cast<std::uint64_t>(result.bytes);
     return flushed.failed() ? std::min<std::int64_t>(result.bytes, 0) : result.bytes;
   }
@@ -65,23 +83,24 @@ class BlockWriter {
   const std::int32_t passes_;  // read once for each file
   const std::int32_t method_;
   const std::uint8_t* current_ = nullptr;
+  bool goesOn_ = true;
 };
 
 }  // namespace
 
-void AppDelegate::fillFilePath(WipeRun& run, const std::string& path, std::uint64_t size) {
+FillEnd AppDelegate::fillFilePath(WipeRun& run, const std::string& path, std::uint64_t size) {
   if (run.abortErasing != 0) {
     run.screen.apply([](Controls& controls) { controls.selectPage(Page::volume); });
-    return;
+    return FillEnd::early;
   }
   const auto directory = run.directory();
-  if (!directory) return;
+  if (!directory) return FillEnd::early;
   Error error;
   const auto file = directory->openForWriting(path, error);
   if (!file) {
     // Opening takes no space: no full volume refuses it, and nothing of this file will be covered.
     if (!run.stopRequested()) run.noteFault(error);
-    return;
+    return FillEnd::early;
   }
 
   const BlockPlan plan = blockPlan(size);
@@ -92,7 +111,8 @@ void AppDelegate::fillFilePath(WipeRun& run, const std::string& path, std::uint6
     writeFailed = !writer.writeBlock(block * kBlockBytes);
     ++block;
   }
-  writer.writeLastBlock(block * kBlockBytes, plan.lastBytes);
+  const bool isLastWritten = writer.writeLastBlock(block * kBlockBytes, plan.lastBytes);
+  return isLastWritten && !writeFailed ? FillEnd::atItsSize : FillEnd::early;
 }
 
 }  // namespace calvero

@@ -103,8 +103,9 @@ void AppDelegate::runWorker(WipeRun& run) {
     giveUp(run, error);
   }
   // A run that did not get to its own clean-up, or was stopped before it, has nobody else to remove its directory.
-  if (const auto directory = run.directory(); directory && run.outcome != RunOutcome::finished) {
-    run.noteRemoval(directory->remove());
+  if (const auto directory = run.directory()) {
+    if (run.outcome != RunOutcome::finished) run.noteRemoval(directory->remove());
+    run.counters.bytesNotHeld = directory->bytesNotKept();
   }
   // The controller keeps the run; the volume must be free to be unmounted and for the next run all the same.
   run.setDirectory(nullptr);
@@ -178,7 +179,7 @@ void AppDelegate::wipeFreeSpace(WipeRun& run) {
       return;
     }
     directory->readAttributes(path);
-    fillFilePath(run, path, kFillerFileBytes);
+    const FillEnd end = fillFilePath(run, path, kFillerFileBytes);
     run.screen.apply(
         [text = getElapsedData(i)](Controls& controls) { controls.setText(Control::tfElapsedData, text); });
     if (run.screen.mainWindowVisible()) {
@@ -186,6 +187,7 @@ void AppDelegate::wipeFreeSpace(WipeRun& run) {
     }
     deleteByFiles(run, i);
     if (run.applicationEnding != 0) return;
+    if (i + 1 == run.filePathsArray.size()) followLastFile(run, end);
   }
   finishRun(run);
 }
@@ -195,6 +197,7 @@ void AppDelegate::finishRun(WipeRun& run) {
   if (run.applicationEnding != 0 || run.abortErasing != 0) return;
   run.end(RunOutcome::finished);
   logFaults(run);
+  logGrade(run);
   run.screen.apply([size = getFormattedStringForSize(volumeOf(run).freeBytes())](Controls& controls) {
     controls.setText(Control::tfCleanedSize, size);
     controls.setProgress(100);

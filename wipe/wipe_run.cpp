@@ -63,11 +63,6 @@ Error WipeRun::remains() const {
   return remains_;
 }
 
-bool WipeRun::isFlawedByRemainsOnly() const {
-  const std::scoped_lock lock(mutex_);
-  return faults_ == 1 && remains_.failed();
-}
-
 void WipeRun::noteFault(const Error& fault) {
   const std::scoped_lock lock(mutex_);
   if (faults_++ == 0) firstFault_ = fault;
@@ -81,6 +76,30 @@ Error WipeRun::firstFault() const {
 std::uint64_t WipeRun::faults() const {
   const std::scoped_lock lock(mutex_);
   return faults_;
+}
+
+void WipeRun::failBy(const Error& fault) {
+  noteFault(fault);
+  {
+    const std::scoped_lock lock(mutex_);
+    cause_ = fault;
+  }
+  end(RunOutcome::failed);
+  abortErasing = 1;
+}
+
+Error WipeRun::cause() const {
+  const std::scoped_lock lock(mutex_);
+  return cause_;
+}
+
+RunAccount WipeRun::account() const {
+  return {.freeAtStart = counters.bytesFreeAtStart,
+          .covered = counters.bytesCovered,
+          .notHeld = counters.bytesNotHeld,
+          .faults = faults(),
+          .passes = counters.passes,
+          .directoryStays = remains().failed()};
 }
 
 }  // namespace calvero

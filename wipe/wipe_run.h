@@ -12,18 +12,17 @@
 #include "ports/clock.h"
 #include "ports/error.h"
 #include "volumes/volume_table.h"
+#include "wipe/run_account.h"
 #include "wipe/run_screen.h"
 
 namespace calvero {
 
 class FillerDirectory;
 
-/// How a run ended. The first outcome that is noted stands.
-enum class RunOutcome : std::uint8_t {
-  none,      ///< not started, or still under way
-  finished,  ///< every filler file was written in its turn; a directory that could not be removed is a fault
-  failed,    ///< the volume or a filler file is gone
-  cancelled,
+/// How the writing of one filler file ended.
+enum class FillEnd : std::uint8_t {
+  atItsSize,  ///< the volume had room for every pass of it
+  early,      ///< full, failed, stopped, or nothing to write
 };
 
 /// Who tells an order its status: the worker of a finished run, or a cancel that came before it did.
@@ -33,6 +32,9 @@ enum class StatusTeller : std::uint8_t { none, worker, cancel };
 struct RunCounters {
   std::atomic<std::uint64_t> bytesCovered{0};  ///< bytes of the volume that received every pass
   std::atomic<std::uint64_t> bytesWritten{0};  ///< bytes written, all passes counted
+  std::atomic<std::uint64_t> bytesFreeAtStart{0};
+  std::atomic<std::uint64_t> bytesNotHeld{0};  ///< of those covered, whose space was lost before the end
+  std::atomic<std::int32_t> passes{0};         ///< passes of the method, once a file is written with it
 };
 
 // A stop request must never wait for a lock that a stuck worker holds.
@@ -89,10 +91,10 @@ struct WipeRun {
   void noteRefusal(const Error& refusal);
   [[nodiscard]] Error refusal() const;
 
-  /// Counts a filler file that could not be created or opened, a write or flush that failed for another reason than a
-  /// full volume, a directory that stays after a run, a removal that failed with the volume lost, and what the program
-  /// could not go on with; remembers the first. A run with a fault may have left data readable, whatever its outcome.
-  /// Any thread.
+  /// Counts a filler file that could not be created or opened, a write that failed for another reason than a full
+  /// volume, a flush that failed, a directory or removal that failed with the volume lost, and what the program could
+  /// not go on with; remembers the first. A run with a fault may have left data readable, whatever its outcome. Any
+  /// thread.
   void noteFault(const Error& fault);
   [[nodiscard]] Error firstFault() const;
   [[nodiscard]] std::uint64_t faults() const;
@@ -101,8 +103,14 @@ struct WipeRun {
   void noteRemoval(const Error& result);
   /// Why the directory is still there after its removal; success where it is gone. Any thread.
   [[nodiscard]] Error remains() const;
-  /// Whether the one fault of the run is the directory that stayed. Any thread.
-  [[nodiscard]] bool isFlawedByRemainsOnly() const;
+
+  /// Notes a fault after which going on would do harm, and ends the run as failed: it stops as if it were told to.
+  void failBy(const Error& fault);
+  /// What `failBy` was told; success where the run was not ended so. Any thread.
+  [[nodiscard]] Error cause() const;
+
+  /// Any thread.
+  [[nodiscard]] RunAccount account() const;
 
  private:
   mutable std::mutex mutex_;  // guards the members below; never held across a call to the outside
@@ -110,6 +118,7 @@ struct WipeRun {
   Error refusal_;
   Error remains_;
   Error firstFault_;
+  Error cause_;
   std::uint64_t faults_ = 0;
 };
 

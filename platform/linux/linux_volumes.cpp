@@ -97,8 +97,7 @@ Figures figuresOf(const Mount& mount, const LinuxVolumes::ReclaimableBytes& recl
   if (isAutomount(mount)) return {};  // asking it would mount something
   const auto statistics = statisticsOf(mount.path);
   if (!statistics) return {};
-  const std::uint64_t freeBlocks = mayUseReservedBlocks(mount) ? statistics->f_bfree : statistics->f_bavail;
-  return {.availableBytes = freeBlocks * statistics->f_frsize + reclaimableBytes(mount.path),
+  return {.availableBytes = fillableBytes(mount, *statistics) + reclaimableBytes(mount.path),
           .totalBytes = statistics->f_blocks * statistics->f_frsize,
           .readOnly = mount.emergencyReadOnly || (statistics->f_flag & ST_RDONLY) != 0};
 }

@@ -25,6 +25,9 @@ struct Mount {
   uid_t reservedFor = 0;  ///< the user who may fill the blocks that the file system keeps back
 };
 
+/// The mount table of this process.
+inline constexpr const char* kMountTable = "/proc/self/mountinfo";
+
 /// Reads the mount table at `tablePath`, in the format of /proc/self/mountinfo and in its order. Lines that are no
 /// entry are passed over. Throws std::system_error when the table cannot be read.
 std::vector<Mount> readMountTable(const std::string& tablePath);

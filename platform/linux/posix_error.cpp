@@ -21,8 +21,9 @@ ErrorCode errorCodeOf(int errnoValue) {
     case EROFS:
       return ErrorCode::readOnly;
     case ENOSPC:
-    case EDQUOT:
       return ErrorCode::full;
+    case EDQUOT:
+      return ErrorCode::overQuota;
     case EMFILE:
     case ENFILE:
       return ErrorCode::noHandles;

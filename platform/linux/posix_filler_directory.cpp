@@ -3,10 +3,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <system_error>
+
 #include "platform/linux/folder_contents.h"
+#include "platform/linux/mount_table.h"
 #include "platform/linux/posix_error.h"
 #include "platform/linux/posix_filler_file.h"
 #include "platform/linux/process_limits.h"
+#include "platform/linux/reserved_blocks.h"
 
 namespace calvero {
 
@@ -147,6 +152,20 @@ bool PosixFillerDirectory::stillHolds(const std::string& name, const FileIdentit
   return place_.showsNoOwners() || found->isSameFile(noted);
 }
 
+std::optional<std::uint64_t> PosixFillerDirectory::availableBytes() {
+  struct statvfs statistics = {};
+  if (retryInterrupted([&] { return ::fstatvfs(directory_.get(), &statistics); }) != 0) return {};
+  try {
+    const std::vector<Mount> table = readMountTable(kMountTable);
+    const Mount* mount = MountTree(table).reachedAt(place_.volumePath());
+    if (mount == nullptr) return {};
+    const std::uint64_t fillable = fillableBytes(*mount, statistics);
+    return fillable - std::min(fillable, bytesKeptByFileSystem(*mount, statistics));
+  } catch (const std::system_error&) {
+    return {};
+  }
+}
+
 Error PosixFillerDirectory::remove() {
   closed_ = true;
   held_.releaseForGood(cleanUpSteps_);
@@ -156,7 +175,8 @@ Error PosixFillerDirectory::remove() {
   for (int attempt = 0; attempt < kRemoveAttempts; ++attempt) {
     error = emptyFolder(directory_, place_.path(), cleanUpSteps_);
     if (!error.failed()) error = removeName();
-    if (error.code != ErrorCode::exists && error.code != ErrorCode::full) return error;
+    const bool mayPass = error.code == ErrorCode::exists || error.code == ErrorCode::full;
+    if (!mayPass && error.code != ErrorCode::overQuota) return error;
   }
   return error;
 }

@@ -23,6 +23,7 @@ class PosixFillerDirectory : public FillerDirectory {
   Error readAttributes(const std::string& path) override;
   std::unique_ptr<FillerFile> openForWriting(const std::string& path, Error& error) override;
   Error removeItem(const std::string& path) override;
+  std::optional<std::uint64_t> availableBytes() override;
   std::uint64_t bytesNotKept() const override { return bytesNotKept_; }
   void releaseSpace() override;
   std::uint64_t cleanUpSteps() const override { return cleanUpSteps_; }

@@ -3,9 +3,14 @@
 #include <linux/capability.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 #include <array>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <system_error>
 
 #include "platform/linux/mount_table.h"
 
@@ -36,6 +41,20 @@ bool mayUseReservedBlocks(const Mount& mount) {
   // Users and capabilities count as the whole system knows them: a user namespace's root has neither.
   if (!hasReservedBlocks(mount) || !isInInitialUserNamespace()) return false;
   return ::geteuid() == mount.reservedFor || hasResourceCapability();
+}
+
+std::uint64_t bytesKeptByFileSystem(const Mount& mount, const struct statvfs& statistics) {
+  if (!mount.type.starts_with("ext") || !mayUseReservedBlocks(mount)) return 0;  // for others it is not told as free
+  const std::string number = std::to_string(major(mount.device)) + ':' + std::to_string(minor(mount.device));
+  std::error_code unknown;
+  const auto device = std::filesystem::read_symlink("/sys/dev/block/" + number, unknown).filename().string();
+  std::ifstream file("/sys/fs/ext4/" + device + "/reserved_clusters");
+  std::uint64_t clusters = 0;
+  return file >> clusters ? clusters * statistics.f_frsize : 0;
+}
+
+std::uint64_t fillableBytes(const Mount& mount, const struct statvfs& statistics) {
+  return (mayUseReservedBlocks(mount) ? statistics.f_bfree : statistics.f_bavail) * statistics.f_frsize;
 }
 
 }  // namespace calvero

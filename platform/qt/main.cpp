@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "app/app_delegate.h"
+#include "app/exit_code.h"
 #include "app/program_entry.h"
 #include "platform/linux/administrator.h"
 #include "platform/linux/process_limits.h"
@@ -29,10 +30,9 @@
 namespace calvero {
 namespace {
 
-constexpr int kFailed = 1;
-constexpr int kWrongUsage = 2;
-constexpr int kRefused = 3;
-constexpr int kCancelled = 4;
+constexpr int kFailed = static_cast<int>(ExitCode::failed);
+constexpr int kWrongUsage = static_cast<int>(ExitCode::wrongUsage);
+constexpr int kRefused = static_cast<int>(ExitCode::refused);
 constexpr std::chrono::seconds kTimeForThreadsToEnd{2};
 constexpr std::chrono::seconds kTimeForTagsToBeStored{2};
 constexpr std::chrono::seconds kTimeForTheStatusToBeStored{600};
@@ -50,10 +50,10 @@ int print(const std::string& text) {
   return kFailed;
 }
 
-/// A run with failed writes has finished, but is no success.
+/// An order that no run was started for has failed: nobody has declined it.
 int exitCodeOf(const WipeRun& run) {
-  if (run.outcome == RunOutcome::cancelled) return kCancelled;
-  return run.outcome == RunOutcome::finished && run.faults() == 0 ? 0 : kFailed;
+  if (run.outcome == RunOutcome::none) return kFailed;
+  return static_cast<int>(exitCodeOf(run.outcome, run.account()));
 }
 
 /// A hidden program is in nobody's way, and whoever ordered its run waits for the status. Once it is told to end, by

@@ -39,7 +39,7 @@ void MainWindow::setTexts(const Localisation& localisation) {
   ui_->tfCleanedSize->setAccessibleDescription(ui_->highly_secured->text().trimmed());
   ui_->volumePage->setTableHeading(toText(localisation.localised("Drives")));
   ui_->methodPage->setTexts(
-      toText(localisation.localised("Passes: %1")),
+      toText(localisation.localised("Passes: %1")), toText(localisation.localised("Writes nothing")),
       toText(localisation.localised("Writes nothing: the free space is laid out and given back as it was.")));
   describeVolumes(localisation);
   describeControls(localisation);

@@ -59,16 +59,18 @@ void MethodPage::setPasses(const std::array<int, kMethods>& passes) {
   refresh();
 }
 
-void MethodPage::setTexts(const QString& passes, const QString& withoutPasses) {
+void MethodPage::setTexts(const QString& passes, const QString& withoutPasses, const QString& explanation) {
   passesText_ = passes;
   withoutPasses_ = withoutPasses;
+  explanation_ = explanation;
   refresh();
 }
 
 void MethodPage::refresh() {
   for (std::size_t i = 0; i < kMethods; ++i) {
-    const QString passes = passesText_.contains(QStringLiteral("%1")) ? passesText_.arg(passes_[i]) : passesText_;
-    const QString explanation = passes_[i] == 0 ? withoutPasses_ : QString();
+    const QString number = passesText_.contains(QStringLiteral("%1")) ? passesText_.arg(passes_[i]) : passesText_;
+    const QString passes = passes_[i] == 0 ? withoutPasses_ : number;
+    const QString explanation = passes_[i] == 0 ? explanation_ : QString();
     findChild<QLabel*>(QStringLiteral("passes_%1").arg(i + 1))->setText(passes);
     buttons_[i]->setAccessibleName(labels_[i]->label() + QStringLiteral(", ") + passes);
     const QString tier = findChild<QLabel*>(tierOf(i))->text();

@@ -26,8 +26,9 @@ class MethodPage : public QWidget {
   /// Finds the slots among the page's children; once, when they are there.
   void bind();
   void setPasses(const std::array<int, kMethods>& passes);
-  /// How a number of passes is written, "%1" standing for it, and what is told about a method without any.
-  void setTexts(const QString& passes, const QString& withoutPasses);
+  /// How a number of passes is written, "%1" standing for it, what stands in its place for a method without any, and
+  /// what is told about such a method.
+  void setTexts(const QString& passes, const QString& withoutPasses, const QString& explanation);
   /// The labels or the captions above them have new texts.
   void refresh();
   /// Keyboard to the slot that is on.
@@ -47,6 +48,7 @@ class MethodPage : public QWidget {
   std::array<int, kMethods> passes_{};
   QString passesText_;
   QString withoutPasses_;
+  QString explanation_;
 };
 
 }  // namespace calvero

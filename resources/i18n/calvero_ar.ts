@@ -268,6 +268,10 @@
         <translation>عدد مرات الكتابة: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>لا تكتب شيئًا</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>لا تكتب شيئًا: تُحجز المساحة الفارغة ثم تُحرَّر كما كانت.</translation>
     </message>
@@ -276,8 +280,16 @@
         <translation>التقدم</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>تم مسح المساحة الفارغة في %1.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>تمت الكتابة فوق %1 من المساحة الفارغة على %2.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>تمت الكتابة فوق %1 فقط من أصل %2 من المساحة الفارغة على %3. قد تظل البيانات المحذوفة قابلة للقراءة هناك.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>لم تتم الكتابة فوق أي شيء: هذه الطريقة لا تكتب أي بيانات.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>فُصل محرك الأقراص %1 أو تعطّل. قد تظل البيانات المحذوفة قابلة للقراءة عليه.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>وحدة التخزين التي يعتمد عليها محرك الأقراص %1 ممتلئة أو معطلة. قد تظل البيانات المحذوفة قابلة للقراءة على محرك الأقراص.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

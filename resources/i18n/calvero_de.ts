@@ -268,6 +268,10 @@ auf: %@</translation>
         <translation>Durchgänge: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Schreibt nichts</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Schreibt nichts: Der freie Speicherplatz wird belegt und unverändert wieder freigegeben.</translation>
     </message>
@@ -276,8 +280,16 @@ auf: %@</translation>
         <translation>Fortschritt</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>Der freie Speicherplatz von %1 wurde gelöscht.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%1 freier Speicherplatz auf %2 wurden überschrieben.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Nur %1 von %2 freiem Speicherplatz auf %3 wurden überschrieben. Zuvor gelöschte Daten sind dort möglicherweise noch lesbar.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Es wurde nichts überschrieben: Diese Methode schreibt keine Daten.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ auf: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Das Laufwerk %1 wurde entfernt oder ist ausgefallen. Zuvor gelöschte Daten sind darauf möglicherweise noch lesbar.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>Der Speicher hinter dem Laufwerk %1 ist voll oder fällt aus. Zuvor gelöschte Daten sind auf dem Laufwerk möglicherweise noch lesbar.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

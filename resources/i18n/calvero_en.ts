@@ -268,6 +268,10 @@
         <translation>Passes: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Writes nothing</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Writes nothing: the free space is laid out and given back as it was.</translation>
     </message>
@@ -276,8 +280,16 @@
         <translation>Progress</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>The free space of %1 has been erased.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%1 of free space on %2 have been overwritten.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Nothing was overwritten: this method writes no data.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>The drive %1 was removed or has failed. Deleted data may still be readable on it.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -268,6 +268,10 @@ en: %@</translation>
         <translation>Pasadas: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>No escribe nada</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>No escribe nada: el espacio libre se reserva y se devuelve tal como estaba.</translation>
     </message>
@@ -276,8 +280,16 @@ en: %@</translation>
         <translation>Progreso</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>Se ha borrado el espacio libre de %1.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>Se han sobrescrito %1 de espacio libre en %2.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Solo se han sobrescrito %1 de %2 de espacio libre en %3. Es posible que en ella aún se puedan leer datos eliminados.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>No se ha sobrescrito nada: este método no escribe datos.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ en: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>La unidad %1 se ha retirado o ha fallado. Es posible que en ella aún se puedan leer datos eliminados.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>El almacenamiento que hay detrás de la unidad %1 está lleno o falla. Es posible que en la unidad aún se puedan leer datos eliminados.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

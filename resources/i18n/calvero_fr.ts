@@ -268,6 +268,10 @@ sur : %@</translation>
         <translation>Passes : %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>N’écrit rien</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>N’écrit rien : l’espace libre est réservé, puis rendu tel quel.</translation>
     </message>
@@ -276,8 +280,16 @@ sur : %@</translation>
         <translation>Progression</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>L’espace libre de %1 a été effacé.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%1 d’espace libre sur %2 ont été écrasés.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Seuls %1 sur %2 d’espace libre sur %3 ont été écrasés. Des données supprimées peuvent encore y être lisibles.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Rien n’a été écrasé : cette méthode n’écrit aucune donnée.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ sur : %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Le lecteur %1 a été retiré ou est tombé en panne. Des données supprimées peuvent encore y être lisibles.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>Le support sur lequel repose le lecteur %1 est plein ou défaillant. Des données supprimées peuvent encore être lisibles sur le lecteur.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -268,6 +268,10 @@ su: %@</translation>
         <translation>Passate: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Non scrive nulla</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Non scrive nulla: lo spazio libero viene allocato e poi restituito com’era.</translation>
     </message>
@@ -276,8 +280,16 @@ su: %@</translation>
         <translation>Avanzamento</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>Lo spazio libero di %1 è stato cancellato.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%1 di spazio libero su %2 sono stati sovrascritti.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Solo %1 di %2 di spazio libero su %3 sono stati sovrascritti. I dati eliminati potrebbero essere ancora leggibili.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Non è stato sovrascritto nulla: questo metodo non scrive dati.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ su: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>L’unità %1 è stata rimossa o si è guastata. I dati eliminati potrebbero essere ancora leggibili sull’unità.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>L’archiviazione su cui si basa l’unità %1 è piena o guasta. I dati eliminati potrebbero essere ancora leggibili sull’unità.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

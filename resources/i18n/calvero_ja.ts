@@ -268,6 +268,10 @@
         <translation>書き込み回数：%1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>書き込みなし</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>何も書き込みません。空き領域を確保した後、そのまま解放します。</translation>
     </message>
@@ -276,8 +280,16 @@
         <translation>進行状況</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>%1 の空き領域を消去しました。</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%2 の空き領域 %1 を上書きしました。</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>%3 の空き領域 %2 のうち、上書きされたのは %1 だけです。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>何も上書きされていません。この方式はデータを書き込みません。</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>ドライブ %1 が取り外されたか、故障しました。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>ドライブ %1 の基盤となるストレージに空きがないか、ストレージが故障しています。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

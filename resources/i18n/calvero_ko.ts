@@ -268,6 +268,10 @@
         <translation>쓰기 횟수: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>쓰지 않음</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>아무것도 쓰지 않습니다. 여유 공간을 할당한 후 그대로 돌려놓습니다.</translation>
     </message>
@@ -276,8 +280,16 @@
         <translation>진행률</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>%1의 여유 공간을 지웠습니다.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%2의 여유 공간 %1을(를) 덮어썼습니다.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>%3의 여유 공간 %2 중 %1만 덮어썼습니다. 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>아무것도 덮어쓰지 않았습니다. 이 방식은 데이터를 쓰지 않습니다.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>드라이브 %1이(가) 제거되었거나 고장 났습니다. 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>드라이브 %1의 기반 저장소가 가득 찼거나 고장 났습니다. 드라이브에서 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

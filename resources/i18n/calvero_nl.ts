@@ -268,6 +268,10 @@ op: %@</translation>
         <translation>Aantal rondes: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Schrijft niets</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Schrijft niets: de vrije ruimte wordt in beslag genomen en ongewijzigd weer vrijgegeven.</translation>
     </message>
@@ -276,8 +280,16 @@ op: %@</translation>
         <translation>Voortgang</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>De vrije ruimte van %1 is gewist.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%1 vrije ruimte op %2 is overschreven.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Slechts %1 van %2 vrije ruimte op %3 is overschreven. Verwijderde gegevens zijn daar mogelijk nog leesbaar.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Er is niets overschreven: deze methode schrijft geen gegevens.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ op: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>De schijf %1 is losgekoppeld of defect geraakt. Verwijderde gegevens zijn daarop mogelijk nog leesbaar.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>De opslag achter de schijf %1 is vol of defect. Verwijderde gegevens zijn mogelijk nog leesbaar op de schijf.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

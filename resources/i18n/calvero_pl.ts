@@ -268,6 +268,10 @@ na dysku: %@</translation>
         <translation>Liczba przebiegów: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Niczego nie zapisuje</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Niczego nie zapisuje: wolne miejsce zostaje zajęte i zwolnione bez zmian.</translation>
     </message>
@@ -276,8 +280,16 @@ na dysku: %@</translation>
         <translation>Postęp</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>Wolne miejsce na dysku %1 zostało wymazane.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>Nadpisano %1 wolnego miejsca na dysku %2.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Nadpisano tylko %1 z %2 wolnego miejsca na dysku %3. Usunięte dane mogą być tam nadal możliwe do odczytania.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Niczego nie nadpisano: ta metoda nie zapisuje żadnych danych.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ na dysku: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Dysk %1 został odłączony lub uległ awarii. Usunięte dane mogą być na nim nadal możliwe do odczytania.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>Pamięć masowa, na której znajduje się dysk %1, jest pełna lub uszkodzona. Usunięte dane mogą być na dysku nadal możliwe do odczytania.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -268,6 +268,10 @@ em: %@</translation>
         <translation>Passagens: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Não grava nada</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Não grava nada: o espaço livre é alocado e devolvido como estava.</translation>
     </message>
@@ -276,8 +280,16 @@ em: %@</translation>
         <translation>Progresso</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>O espaço livre de %1 foi apagado.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%1 de espaço livre em %2 foram sobrescritos.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Apenas %1 de %2 de espaço livre em %3 foram sobrescritos. Os dados excluídos ainda podem ser lidos lá.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Nada foi sobrescrito: este método não grava dados.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ em: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>A unidade %1 foi removida ou falhou. Talvez ainda seja possível ler dados excluídos nela.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>O armazenamento por trás da unidade %1 está cheio ou falhando. Os dados excluídos ainda podem ser lidos na unidade.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -268,6 +268,10 @@ på: %@</translation>
         <translation>Antal omgångar: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Skriver ingenting</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Skriver ingenting: det lediga utrymmet tas i anspråk och lämnas tillbaka oförändrat.</translation>
     </message>
@@ -276,8 +280,16 @@ på: %@</translation>
         <translation>Förlopp</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>Det lediga utrymmet på %1 har raderats.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%1 ledigt utrymme på %2 har skrivits över.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Endast %1 av %2 ledigt utrymme på %3 har skrivits över. Borttagna data kan fortfarande vara läsbara där.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Ingenting skrevs över: den här metoden skriver inga data.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ på: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Enheten %1 har kopplats från eller slutat fungera. Borttagna data kan fortfarande vara läsbara på den.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>Lagringen bakom enheten %1 är full eller håller på att gå sönder. Borttagna data kan fortfarande vara läsbara på enheten.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -268,6 +268,10 @@ Sürücü: %@</translation>
         <translation>Geçiş sayısı: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Hiçbir şey yazmaz</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Hiçbir şey yazmaz: Boş alan ayrılır ve olduğu gibi geri verilir.</translation>
     </message>
@@ -276,8 +280,16 @@ Sürücü: %@</translation>
         <translation>İlerleme</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>%1 sürücüsünün boş alanı silindi.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>%2 üzerindeki %1 boş alanın üzerine yazıldı.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>%3 üzerindeki %2 boş alanın yalnızca %1 kadarının üzerine yazıldı. Silinen veriler orada hâlâ okunabilir olabilir.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Hiçbir şeyin üzerine yazılmadı: bu yöntem veri yazmaz.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@ Sürücü: %@</translation>
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>%1 sürücüsü çıkarıldı veya arızalandı. Daha önce silinmiş veriler sürücüde hâlâ okunabilir olabilir.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>%1 sürücüsünün altındaki depolama dolu veya arızalı. Silinen veriler sürücüde hâlâ okunabilir olabilir.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

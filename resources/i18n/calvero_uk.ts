@@ -268,6 +268,10 @@
         <translation>Кількість проходів: %1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>Нічого не записує</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>Нічого не записує: вільне місце займається і звільняється без змін.</translation>
     </message>
@@ -276,8 +280,16 @@
         <translation>Перебіг</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>Вільне місце на диску %1 стерто.</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>Перезаписано %1 вільного місця на диску %2.</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>Перезаписано лише %1 з %2 вільного місця на диску %3. Можливо, видалені дані там усе ще можна прочитати.</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>Нічого не перезаписано: цей метод не записує даних.</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>Диск %1 від’єднано або він вийшов з ладу. Можливо, видалені дані на ньому все ще можна прочитати.</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>Сховище, на якому розміщено диск %1, заповнене або виходить з ладу. Можливо, видалені дані на диску все ще можна прочитати.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

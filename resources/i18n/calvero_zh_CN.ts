@@ -268,6 +268,10 @@
         <translation>擦除遍数：%1</translation>
     </message>
     <message>
+        <source>Writes nothing</source>
+        <translation>不写入任何数据</translation>
+    </message>
+    <message>
         <source>Writes nothing: the free space is laid out and given back as it was.</source>
         <translation>不写入任何数据：占用可用空间后将其原样释放。</translation>
     </message>
@@ -276,8 +280,16 @@
         <translation>进度</translation>
     </message>
     <message>
-        <source>The free space of %1 has been erased.</source>
-        <translation>%1 的可用空间已擦除。</translation>
+        <source>%1 of free space on %2 have been overwritten.</source>
+        <translation>已覆盖 %2 上 %1 的可用空间。</translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 of free space on %3 have been overwritten. Deleted data may still be readable there.</source>
+        <translation>%3 上 %2 的可用空间中仅覆盖了 %1。其中已删除的数据可能仍可读取。</translation>
+    </message>
+    <message>
+        <source>Nothing was overwritten: this method writes no data.</source>
+        <translation>未覆盖任何内容：此方法不写入数据。</translation>
     </message>
     <message>
         <source>Part of the free space of %1 could not be erased. Deleted data may still be readable there.</source>
@@ -290,6 +302,10 @@
     <message>
         <source>The drive %1 was removed or has failed. Deleted data may still be readable on it.</source>
         <translation>驱动器 %1 已被移除或发生故障。其中已删除的数据可能仍可读取。</translation>
+    </message>
+    <message>
+        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
+        <translation>驱动器 %1 背后的存储已满或出现故障。其中已删除的数据可能仍可读取。</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

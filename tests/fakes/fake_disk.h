@@ -38,6 +38,7 @@ class FakeDisk {
   }
 
   [[nodiscard]] std::size_t blockCount() const { return blocks_.size(); }
+  [[nodiscard]] std::uint64_t freeBytes() const { return (blockCount() - takenBlocks()) * kBlockBytes; }
   [[nodiscard]] std::size_t takenBlocks() const { return count(&Block::taken); }
   /// Blocks that have been written at least once.
   [[nodiscard]] std::size_t coveredBlocks() const { return count(&Block::written); }

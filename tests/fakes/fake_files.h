@@ -24,6 +24,7 @@ struct FakeVolume {
   FakeDisk disk;
   std::atomic<bool> mounted{true};
   std::atomic<bool> readOnly{false};
+  std::atomic<bool> tellsFreeSpace{true};
   /// No file can have more bytes.
   std::atomic<std::uint64_t> largestFile{std::numeric_limits<std::uint64_t>::max()};
   /// Writes to files that had lost their last name: a cancel takes them away under their writer.

@@ -101,6 +101,11 @@ Error FakeFillerDirectory::removeItem(const std::string& path) {
   return {};
 }
 
+std::optional<std::uint64_t> FakeFillerDirectory::availableBytes() {
+  if (!directory_->volume->tellsFreeSpace) return std::nullopt;
+  return directory_->volume->disk.freeBytes();
+}
+
 std::uint64_t FakeFillerDirectory::bytesNotKept() const {
   const std::scoped_lock lock(files_.mutex_);
   return bytesNotKept_;

@@ -26,6 +26,7 @@ class FakeFillerDirectory : public FillerDirectory {
   Error readAttributes(const std::string& path) override;
   std::unique_ptr<FillerFile> openForWriting(const std::string& path, Error& error) override;
   Error removeItem(const std::string& path) override;
+  std::optional<std::uint64_t> availableBytes() override;
   [[nodiscard]] std::uint64_t bytesNotKept() const override;
   void releaseSpace() override;
   [[nodiscard]] std::uint64_t cleanUpSteps() const override { return cleanUpSteps_; }

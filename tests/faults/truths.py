@@ -2,8 +2,8 @@
 
 from testkit.program import EXIT_FAILED, EXIT_FINISHED, EXIT_REFUSED
 
-# How a volume says that it is full, which is the normal end of a fill: it is believed even where room is left.
-_FULL = {"ENOSPC", "EDQUOT"}
+# After which going on would only drop more: the storage under the volume is full, failing or gone.
+_ENDS_AT_ONCE = {"ENOSPC", "EDQUOT", "EIO", "ENODEV", "EROFS"}
 # What is needed to find and remove what a run has made; while it goes on failing, that stays.
 _CLEANING = {"lookup", "getattr", "setattr", "open", "opendir", "readdir", "unlink", "rmdir"}
 # By what a run looks at a directory that it finds, and closes it to others, before it takes it over.
@@ -22,7 +22,9 @@ class Fault:
         self.action = action.rstrip("+")
 
     def saysFull(self):
-        return self.kind in ("write", "fsync") and self.action in _FULL
+        """How a volume says that it is full, which is the normal end of a fill: it is believed even where room is left.
+        A flush cannot say so: the volume had taken the data."""
+        return self.kind == "write" and self.action == "ENOSPC"
 
     def mustFinish(self):
         """What a run gets over: a call that is answered late while it works, and a short write."""
@@ -31,17 +33,20 @@ class Fault:
 
     def mustReachEveryFile(self):
         """One block is lost; the rest of the volume can still be covered."""
-        return self.kind in ("write", "fsync") and self.action == "EIO" and not self.lasts
+        return self.kind == "write" and self.action in ("EIO", "EDQUOT") and not self.lasts
+
+    def mustEndAtOnce(self):
+        return self.kind == "fsync" and self.action in _ENDS_AT_ONCE
 
     def losesData(self):
         """Whether a write or its flush fails for another reason than a full volume."""
-        return self.kind in ("write", "fsync") and self.action not in _FULL | {"tear", "delay"}
+        return self.kind in ("write", "fsync") and self.action not in ("tear", "delay") and not self.saysFull()
 
 
 def untruths(fault, ended, withLeftovers):
     """What is wrong with how the run ended, as texts."""
-    return [*_untrueEnd(ended), *_givenUpEarly(fault, ended), *_untrueReport(ended), *_untrueSuccess(fault, ended),
-            *_leftBehind(fault, ended, withLeftovers)]
+    return [*_untrueEnd(ended), *_givenUpEarly(fault, ended), *_goneOnWith(fault, ended), *_untrueReport(ended),
+            *_untrueSuccess(fault, ended), *_leftBehind(fault, ended, withLeftovers)]
 
 
 def untruthsOfNextRun(ended):
@@ -70,8 +75,17 @@ def _givenUpEarly(fault, ended):
         return
     if fault.mustFinish() and ended.exitCode != EXIT_FINISHED:
         yield f"it ended with {ended.exitCode}: {ended.errors.strip()}"
-    if fault.mustReachEveryFile() and ended.calls["filesBegun"] != FILLER_FILES:
+    if fault.mustReachEveryFile() and ended.calls["filesBegun"] < FILLER_FILES:
         yield f"it began {ended.calls['filesBegun']} of {FILLER_FILES} files"
+
+
+def _goneOnWith(fault, ended):
+    if ended.calls["hits"] == 0 or not fault.mustEndAtOnce():
+        return
+    if ended.exitCode != EXIT_FAILED or ended.report.get("outcome") != "failed":
+        yield f"a flush failed, and it ended with {ended.exitCode} as {ended.report.get('outcome')}"
+    if ended.calls["hits"] > 1 or ended.calls["fsync"] != fault.call:
+        yield f"it went on after the failed flush, with {ended.calls['fsync'] - fault.call} more"
 
 
 def _untrueReport(ended):
@@ -81,8 +95,9 @@ def _untrueReport(ended):
     outcomes = {EXIT_FINISHED: {"finished"}, EXIT_FAILED: {"failed", "finished"}, EXIT_REFUSED: {"refused"}}
     if report.get("outcome") not in outcomes.get(ended.exitCode, ()):
         yield f"it reported {report.get('outcome')} and ended with {ended.exitCode}"
-    if (report.get("outcome") == "finished") and (ended.exitCode == EXIT_FINISHED) != (report["faults"] == 0):
-        yield f"it finished with {report['faults']} faults and ended with {ended.exitCode}"
+    flawless = report.get("faults") == 0 and report.get("remains") is None
+    if (report.get("outcome") == "finished") and (ended.exitCode == EXIT_FINISHED) != flawless:
+        yield f"it finished with {report['faults']} faults, {report['remains']} left, and ended with {ended.exitCode}"
     if ended.exitCode != EXIT_FINISHED and not ended.errors.strip():
         yield "it does not say why"
     if report.get("bytesWritten", 0) != ended.calls["bytesWritten"]:

@@ -59,8 +59,9 @@ void addOneVolume(Stage& stage, const std::string& name, std::uint64_t free) {
   stage.volume(volumeOf(name, "ext4", free, 4 * free));
 }
 
-void startRun(Stage& stage) {
+void startRun(Stage& stage, const char* method = "algorithm_1") {
   stage.click("buttonNext");
+  stage.click(method);
   stage.expectAlert("question");
   stage.expectAlert("notice");
   stage.click("proceedBtn");
@@ -195,6 +196,36 @@ void playFlawedRun(Stage& stage) {
   });
 }
 
+/// Most of what was free has been taken by others.
+void playPartialRun(Stage& stage) {
+  addOneVolume(stage, kLongName, kFillerFileBytes);
+  stage.files().volume(std::string("/media/") + kLongName).tellsFreeSpace = false;
+  stage.play([&] {
+    startRun(stage);
+    stage.show("completed-partial", stage.window().completedWindow());
+    stage.showWindow("completed-page-partial");
+  });
+}
+
+void playRunWithoutData(Stage& stage) {
+  addOneVolume(stage, kData, kFillerFileBytes);
+  stage.play([&] {
+    startRun(stage, "algorithm_7");
+    stage.show("completed-nothing", stage.window().completedWindow());
+    stage.showWindow("completed-page-nothing");
+  });
+}
+
+void playFullStorage(Stage& stage) {
+  addOneVolume(stage, kLongName, kFillerFileBytes);
+  stage.files().script.failAt(FileCall::fsync, 2, ErrorCode::full);
+  stage.play([&] {
+    startRun(stage);
+    stage.show("completed-storage-full", stage.window().completedWindow());
+    stage.showWindow("completed-page-storage-full");
+  });
+}
+
 void playLostVolume(Stage& stage) {
   addOneVolume(stage, kLongName, kFillerFileBytes);
   Gate& writing = stage.gateBefore(FileCall::open, 2);
@@ -249,8 +280,9 @@ void playCancelledOrder(Stage& stage) {
 }  // namespace
 
 void playAllScenes(const std::string& language, const Visitor& visitor) {
-  for (const auto play : {playWizard, playCancel, playWithoutVolumes, playRefusals, playFlawedRun, playLostVolume,
-                          playLostState, playOrder, playCancelledOrder}) {
+  for (const auto play :
+       {playWizard, playCancel, playWithoutVolumes, playRefusals, playFlawedRun, playPartialRun, playRunWithoutData,
+        playFullStorage, playLostVolume, playLostState, playOrder, playCancelledOrder}) {
     Stage stage(language, visitor);
     play(stage);
   }

@@ -290,7 +290,8 @@ TEST_F(RemoteMode, ResetsTheCancelTagBeforeItCancels) {
                   "setText labelPhase \"Please wait, finishing current process..\"", "setProgressIndeterminate",
                   "detach", "removeLeftDirectory /media/DATA/.$$XE8AQU", "setText tfCleanedSize \"300.00 KB\"",
                   "startTimer 7000 once", "activateApplication",
-                  "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"", "setTag cvrStatus \"3\"",
+                  "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"",
+                  "setTag cvrResult \"cancelled free=0 covered=0 not-held=0 faults=0\"", "setTag cvrStatus \"3\"",
                   "selectPage 0", "sleep 3", "terminate", "startTimer 60000 repeating"));
 }
 
@@ -376,7 +377,9 @@ TEST_F(RemoteMode, CancelledByTheNotificationLeavesTheCancelTagAsItIs) {
   world.tags.put("CVRCANCEL", "1");
   world.systemNotifications.send("cancel wipe", "cancel");
   EXPECT_EQ(world.tags.peek("CVRCANCEL"), "1");
-  EXPECT_THAT(world.journal.only({"setTag"}), ElementsAre("setTag cvrStatus \"3\""));
+  EXPECT_THAT(
+      world.journal.only({"setTag"}),
+      ElementsAre("setTag cvrResult \"cancelled free=0 covered=0 not-held=0 faults=0\"", "setTag cvrStatus \"3\""));
 }
 
 TEST_F(RemoteMode, StopsTheWorkerThatIsWritingWhenTheCancelTagIsSeen) {

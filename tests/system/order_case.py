@@ -14,8 +14,8 @@ from remote_case import BUS_VARIABLE
 from tag_store import STORE_VARIABLE, Tags
 from testkit import program
 
-NOTHING_LEFT = {"cvrOnline": "0", "cvrDrive": "", "cvrAlgo": "", "cvrStatus": "", "CVRCANCEL": "", "cvrNamed": "",
-                "cvrMountPath": "", "cvrVolumeUuid": ""}
+NOTHING_LEFT = {"cvrOnline": "0", "cvrDrive": "", "cvrAlgo": "", "cvrStatus": "", "cvrResult": "", "CVRCANCEL": "",
+                "cvrNamed": "", "cvrMountPath": "", "cvrVolumeUuid": ""}
 
 # Ends by itself in a test that fails. `files` are where the script and the test tell each other how far they are.
 STAND_IN = """#!/usr/bin/python3

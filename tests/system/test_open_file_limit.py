@@ -11,18 +11,19 @@ LESS_THAN_IS_SPARED = 30
 
 
 class OpenFileLimit(SystemTest):
-    def wipeWithLimit(self, target, softLimit, hardLimit):
+    def wipeWithLimit(self, target, softLimit, hardLimit, grade):
         ended = self.runCommand(["prlimit", f"--nofile={softLimit}:{hardLimit}", self.programFor(False), "wipe",
                                  target.path, "--yes", "--json"])
-        self.assertEqual(ended.returncode, program.EXIT_FINISHED, ended)
-        self.assertEqual(json.loads(ended.stdout)["faults"], 0)
+        report = json.loads(ended.stdout)
+        self.assertEqual((report["outcome"], report["grade"], report["faults"]), ("finished", grade, 0), ended)
+        self.assertEqual(ended.returncode, program.EXIT_FINISHED if grade == "complete" else program.EXIT_FAILED, ended)
         self.assertNothingLeft(target)
         return ended
 
     def testARunThatCannotOpenAllItsFilesHoldsTheOthersByTheirNames(self):
         target = self.makeVolume("ext4", 1200)
         freeBefore = target.freeBytes()
-        ended = self.wipeWithLimit(target, HARD_LIMIT, HARD_LIMIT)
+        ended = self.wipeWithLimit(target, HARD_LIMIT, HARD_LIMIT, "complete")
         self.assertEqual(ended.stderr, "")
         covered = json.loads(ended.stdout)["bytesCovered"]
         self.assertGreater(covered, 0.99 * (freeBefore - EXT4_RESERVE_BYTES))
@@ -35,11 +36,13 @@ class OpenFileLimit(SystemTest):
                                      self.programFor(False), "wipe", target.path, "--yes", "--json"])
         program.waitUntil(lambda: isWriting(target, 1), "the second filler file being written")
         os.unlink(os.path.join(target.fillerDirectory(), ".temp0"))
-        _, _, errors = self.finish(process)
+        code, output, errors = self.finish(process)
+        report = json.loads(output)
+        self.assertEqual((code, report["grade"], report["notHeld"]), (program.EXIT_FAILED, "partial", 128_000_000))
         self.assertIn("128.00 MB were not held until the end of the run", errors)
         self.assertNothingLeft(target)
 
     def testALowSoftLimitKeepsNothingFromBeingHeld(self):
         target = self.makeVolume("ext4", 1200)
-        ended = self.wipeWithLimit(target, HARD_LIMIT, 1024)
+        ended = self.wipeWithLimit(target, HARD_LIMIT, 1024, "complete")
         self.assertEqual(ended.stderr, "")

@@ -38,7 +38,7 @@ class Order(OrderTest):
                 self.assertEqual(self.waitForStart(), f"cvrOnline=1 cvrDrive={target.name} cvrAlgo={number} cvrStatus="
                                                       " CVRCANCEL=")
                 self.assertEqual(self.tags(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": number,
-                                               "cvrStatus": "", "CVRCANCEL": ""} | pinned(target))
+                                               "cvrStatus": "", "cvrResult": "", "CVRCANCEL": ""} | pinned(target))
                 os.remove(self.file("started"))
                 self.assertEqual(self.runProgram("clear").returncode, program.EXIT_FINISHED)
 
@@ -48,7 +48,7 @@ class Order(OrderTest):
         self.setOrder("another volume", "8", cvrStatus="3", CVRCANCEL="1", LANG="de")
         self.assertEqual(self.order(target).returncode, program.EXIT_FINISHED)
         self.assertEqual(self.tags(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "3", "cvrStatus": "",
-                                       "CVRCANCEL": "", "LANG": "de"} | pinned(target))
+                                       "cvrResult": "", "CVRCANCEL": "", "LANG": "de"} | pinned(target))
 
     def testByALabelThatTwoVolumesCarryIsRefusedAndTakenByTheMountPath(self):
         self.standIn("")

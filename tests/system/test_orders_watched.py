@@ -10,6 +10,8 @@ from remote_case import BUS_VARIABLE
 from testkit import program
 from testkit.program import TerminalProgram, startedAs
 
+NO_RESULT = {"grade": None, "bytesOverwritten": None, "shortBy": None}
+
 
 class WaitingForAnOrder(OrderTest):
     def startOrder(self, target, *arguments):
@@ -66,8 +68,7 @@ class OrdersOfOthers(OrderTest):
         target = self.makeVolume()
         self.setOrder(target.name, "9")
         expected = {"pending": True, "volume": target.name, "method": 9, "mountPath": None, "volumeUuid": None,
-                    "running": False, "cancelAsked": False,
-                    "status": None, "outcome": "none"}
+                    "running": False, "cancelAsked": False, "status": None, "outcome": "none", **NO_RESULT}
         self.assertEqual(self.statusOf(), expected)
         end = self.hold(target)
         self.setTags(CVRCANCEL="1")
@@ -188,8 +189,8 @@ class WithoutVolumes(OrderTest):
     def testWithoutAnOrderThereIsNothingToShowToCancelOrToRemove(self):
         self.assertEqual(self.runProgram("status").stdout, "Order:  none\nRun:    none\nStatus: none\n")
         self.assertEqual(self.statusOf(), {"pending": False, "volume": None, "method": None, "mountPath": None,
-                                           "volumeUuid": None, "running": False,
-                                           "cancelAsked": False, "status": None, "outcome": "none"})
+                                           "volumeUuid": None, "running": False, "cancelAsked": False, "status": None,
+                                           "outcome": "none", **NO_RESULT})
         self.assertRefused(self.runProgram("cancel"), "no order")
         self.assertRefused(self.runProgram("cancel", "--wait"), "no order")
         ended = self.runProgram("clear")

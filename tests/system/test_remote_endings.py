@@ -14,6 +14,7 @@ from testkit import program
 ENDS_BY_ITSELF_SECONDS = 30
 NO_CANCELS = (("cancel wipe", "other"), ("cancel wipe", ""), ("cancel wipe",), ("cancel", "cancel wipe"),
               ("Cancel wipe", "cancel"), ("cancel wipe ", "cancel"), ("cancel wipe", "cancel", "cancel"))
+NO_RUN = "failed free=0 covered=0 not-held=0 faults=0"
 
 
 class MissingVolume(RemoteTest):
@@ -24,7 +25,7 @@ class MissingVolume(RemoteTest):
                 order = self.startOrder(name)
                 self.assertEndedSilently(order, program.EXIT_FAILED, ENDS_BY_ITSELF_SECONDS)
                 self.assertEqual(order.tags.read(), {"cvrOnline": "1", "cvrDrive": name, "cvrAlgo": "1",
-                                                     "cvrStatus": FAILED})
+                                                     "cvrResult": NO_RUN, "cvrStatus": FAILED})
                 self.assertNothingLeft(target)
 
     def testAnOrderWithoutANameIsToldToo(self):

@@ -46,8 +46,9 @@ class OrderedRun(RemoteTest):
         self.assertEqual(status, FINISHED)
         self.assertGreater(when - removed, PAUSE_SECONDS - TOLERANCE_SECONDS)
         self.assertEndedSilently(order, program.EXIT_FINISHED)
-        self.assertEqual(order.tags.read(), {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "1",
-                                             "cvrStatus": FINISHED})
+        tags = order.tags.read()
+        self.assertRegex(tags.pop("cvrResult"), r"^complete free=\d+ covered=\d+ not-held=0 faults=0$")
+        self.assertEqual(tags, {"cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "1", "cvrStatus": FINISHED})
         self.assertFreeAgain(target, freeBefore, FREE_SPACE_SLACK_BYTES)
         self.assertEqual(kept.differences(), [])
         self.assertErased(target, marked)

@@ -3,7 +3,7 @@
 import os
 import re
 
-from window_case import FAST, ISOLATES, QUESTION, REQUEST, WindowTest
+from window_case import FAST, ISOLATES, QUESTION, REQUEST, WindowTest, successText
 
 REPLACEMENT = "\N{REPLACEMENT CHARACTER}"
 OVERRIDE = "\N{RIGHT-TO-LEFT OVERRIDE}"
@@ -43,9 +43,9 @@ class HostileLabels(WindowTest):
         window.pressButton("Proceed")
         self.answer(window, *QUESTION, button="YES")
         self.answer(window, REQUEST)
-        self.assertEqual(self.outcome(window), f"The free space of {target.name} has been erased.")
-        label = window.find("label", re.compile("has been erased"), within=window.find("dialog", "Calvero"))
-        self.assertEqual(ISOLATES.sub("", label.name), f"The free space of {target.name} has been erased.")
+        self.assertRegex(self.outcome(window), successText(target))
+        label = window.find("label", re.compile("have been overwritten"), within=window.find("dialog", "Calvero"))
+        self.assertRegex(ISOLATES.sub("", label.name), successText(target))
         self.acknowledge(window)
         self.assertDescribed(window, target)
 

@@ -143,7 +143,8 @@ TEST(VolumePath, WritesTheStatusInsteadOfThePanelInRemoteModeWhenTheLookupFails)
   AppDelegate& app = world.launch();
   world.volumes.breakLookup();
   EXPECT_EQ(app.getVolumePath("DATA"), std::nullopt);
-  EXPECT_THAT(world.steps(), ElementsAre("setTag cvrStatus \"3\"", "terminate"));
+  EXPECT_THAT(world.steps(), ElementsAre("setTag cvrResult \"failed free=0 covered=0 not-held=0 faults=0\"",
+                                         "setTag cvrStatus \"3\"", "terminate"));
 }
 
 TEST(SelectedVolumeCheck, FindsNothingWrongWithAWritableVolumeAndChangesNothing) {

@@ -137,6 +137,7 @@ TEST_F(Cancellation, InRemoteModeReportsTheAbortAndEndsTheApplicationThreeSecond
                           "setProgressIndeterminate", "detach", "releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU",
                           "setText tfCleanedSize \"300.00 MB\"", "post", "startTimer 7000 once", "activateApplication",
                           "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"",
+                          "setTag cvrResult \"cancelled free=299999232 covered=0 not-held=0 faults=0\"",
                           "setTag cvrStatus \"3\"", "selectPage 0", "sleep 3", "terminate"));
 }
 

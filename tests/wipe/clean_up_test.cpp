@@ -162,7 +162,7 @@ TEST_F(CleanUp, GivesBackTheSpaceOfAVolumeThatIsOutOfSight) {
   EXPECT_EQ(world.files.volume("/media/DATA").disk.takenBlocks(), 0U);
 }
 
-TEST_F(CleanUp, MakesAFinishedRunFlawedWhoseDirectoryCannotBeRemoved) {
+TEST_F(CleanUp, TellsOfAFinishedRunWhoseDirectoryCannotBeRemoved) {
   for (const ErrorCode code : {ErrorCode::notPermitted, ErrorCode::other, ErrorCode::notOurs}) {
     World other;
     other.volume("DATA", 1'000'000);
@@ -170,11 +170,10 @@ TEST_F(CleanUp, MakesAFinishedRunFlawedWhoseDirectoryCannotBeRemoved) {
     other.files.script.failAt(FileCall::removeDirectory, 1, code);
     other.runWorker();
     EXPECT_EQ(flawed->outcome, RunOutcome::finished);
-    EXPECT_EQ(flawed->faults(), 1U);
-    EXPECT_EQ(flawed->firstFault().path, World::kDirectory);
+    EXPECT_EQ(flawed->remains().path, World::kDirectory);
     EXPECT_EQ(flawed->remains().code, code);
-    EXPECT_TRUE(flawed->isFlawedByRemainsOnly());
-    EXPECT_THAT(other.journal.only({"log 1"}), IsEmpty()) << "no deleted data remains readable for it";
+    EXPECT_TRUE(flawed->account().directoryStays);
+    EXPECT_EQ(flawed->faults(), 0U) << "no deleted data remains readable for it";
   }
 }
 
@@ -236,7 +235,8 @@ TEST_F(CleanUp, ReportsAFinishedRemoteRunAndEndsTheApplication) {
   EXPECT_THAT(world.steps(),
               ElementsAre("releaseSpace", "removeDirectory /media/DATA/.$$XE8AQU", "startTimer 7000 once",
                           "activateApplication", "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"",
-                          "sleep 7", "setTag cvrStatus \"2\"", "terminate"));
+                          "sleep 7", "setTag cvrResult \"nothing free=299999232 covered=0 not-held=0 faults=0\"",
+                          "setTag cvrStatus \"2\"", "terminate"));
 }
 
 TEST_F(CleanUp, EndsAWholeRemoteRunWithoutTheCompletionWindow) {
@@ -244,10 +244,11 @@ TEST_F(CleanUp, EndsAWholeRemoteRunWithoutTheCompletionWindow) {
   world.launch();
   world.runWorker();
   const Steps steps = world.steps();
-  ASSERT_GE(steps.size(), 7U);
-  EXPECT_THAT(Steps(steps.end() - 7, steps.end()),
+  ASSERT_GE(steps.size(), 8U);
+  EXPECT_THAT(Steps(steps.end() - 8, steps.end()),
               ElementsAre("removeDirectory /media/DATA/.$$XE8AQU", "startTimer 7000 once", "activateApplication",
                           "popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"", "sleep 7",
+                          "setTag cvrResult \"nothing free=299999232 covered=0 not-held=0 faults=0\"",
                           "setTag cvrStatus \"2\"", "terminate"));
   EXPECT_THAT(world.journal.only({"setText tfCleanedSize", "bringToFront"}), IsEmpty());
   EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::finished);

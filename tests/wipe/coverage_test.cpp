@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+#include <vector>
+
 #include "tests/fakes/world.h"
 
 namespace calvero {
@@ -23,6 +26,14 @@ class Coverage : public ::testing::Test {
     run = world.app().currentRun();
   }
   FakeDisk& disk() { return world.files.volume("/media/DATA").disk; }
+  /// Another program fills the disk up to the last so many bytes; the blocks that it got.
+  std::vector<std::size_t> takeAllBut(std::uint64_t bytes) {
+    std::vector<std::size_t> blocks;
+    for (std::uint64_t left = disk().freeBytes(); left > bytes; left -= kBlockBytesOfDisk) {
+      blocks.push_back(*disk().allocate());
+    }
+    return blocks;
+  }
 
   World world;
   RunPtr run;
@@ -167,17 +178,133 @@ TEST_F(Coverage, CountsABlockWithAFailedPassAsNotCovered) {
 }
 
 TEST_F(Coverage, CountsABlockWhoseFlushFailedAsNotCovered) {
-  for (const ErrorCode code : {ErrorCode::gone, ErrorCode::full}) {
+  start(200'000'000);
+  world.app().createFile(*run);
+  world.files.script.failAt(FileCall::fsync, 2, ErrorCode::other);
+  world.app().fillFilePath(*run, run->filePathsArray[0], 3 * 32768);
+  EXPECT_EQ(run->counters.bytesCovered, 2U * 32768U);
+  EXPECT_EQ(run->counters.bytesWritten, 3U * 32768U) << "and the file is written on";
+}
+
+TEST_F(Coverage, EndsARunAtOnceAsFailedWhenAFlushTellsThatTheStorageUnderTheVolumeIsFullOrFailing) {
+  const std::map<ErrorCode, ErrorCode> causes{{ErrorCode::full, ErrorCode::storageFull},
+                                              {ErrorCode::overQuota, ErrorCode::overQuota},
+                                              {ErrorCode::gone, ErrorCode::gone},
+                                              {ErrorCode::readOnly, ErrorCode::readOnly}};
+  for (const auto& [code, cause] : causes) {
     World other;
     other.volume("DATA", 200'000'000);
-    AppDelegate& app = other.start();
-    const RunPtr disturbed = app.currentRun();
-    app.createFile(*disturbed);
-    other.files.script.failAt(FileCall::fsync, 2, code);
-    app.fillFilePath(*disturbed, disturbed->filePathsArray[0], 3 * 32768);
-    EXPECT_EQ(disturbed->counters.bytesCovered, 2U * 32768U);
-    EXPECT_EQ(disturbed->counters.bytesWritten, 3U * 32768U) << "and the file is written on";
+    other.start().dODWipe();
+    const RunPtr failed = other.app().currentRun();
+    other.files.script.failAt(FileCall::fsync, 5, code);
+    other.runWorker();
+    EXPECT_EQ(failed->outcome, RunOutcome::failed);
+    EXPECT_EQ(failed->cause().code, cause);
+    EXPECT_EQ(failed->faults(), 1U);
+    EXPECT_EQ(failed->counters.bytesCovered, 32768U);
+    EXPECT_EQ(other.files.script.count(FileCall::pwrite), 5U) << "not even the block's other passes are written";
+    EXPECT_THAT(other.journal.only({"bringToFront", "alert"}), IsEmpty());
+    EXPECT_EQ(other.journal.only({"selectPage 0"}).size(), 1U) << "as with a lost volume";
+    EXPECT_FALSE(other.files.directoryExists(World::kDirectory));
   }
+}
+
+TEST_F(Coverage, NotesNoFaultOfAFlushThatFailsUnderACancel) {
+  start(200'000'000);
+  world.files.script.before(FileCall::fsync, 2, [this] { world.app().cancelWipe(); });
+  world.files.script.failAt(FileCall::fsync, 2, ErrorCode::full);
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::cancelled);
+  EXPECT_EQ(run->faults(), 0U);
+}
+
+TEST_F(Coverage, ReportsNoSuccessOfARemoteRunWhoseLastFlushFails) {
+  world.volume("DATA", 1'000'000);
+  world.order("DATA", "1");
+  world.launch();
+  world.files.script.failAt(FileCall::fsync, 31, ErrorCode::full);
+  world.runWorker();
+  EXPECT_EQ(world.files.script.count(FileCall::fsync), 31U);
+  EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::failed);
+  EXPECT_NE(world.tags.peek("cvrStatus"), "2");
+}
+
+TEST_F(Coverage, TakesAQuotaForAFaultAndGoesOnWithTheNextFile) {
+  start(300'000'000);
+  world.files.script.failAt(FileCall::pwrite, 2, ErrorCode::overQuota);
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::finished);
+  EXPECT_EQ(run->firstFault().code, ErrorCode::overQuota);
+  EXPECT_EQ(gradeOf(run->account()), RunGrade::partial);
+  EXPECT_GE(world.journal.only({"open"}).size(), 3U);
+}
+
+TEST_F(Coverage, IsPartialWhereAnotherProgramTookTheSpaceDuringTheRun) {
+  start(300'000'000);
+  world.files.script.before(FileCall::pwrite, 100, [this] { takeAllBut(20'000'000); });
+  world.runWorker();
+  const RunAccount account = run->account();
+  EXPECT_EQ(run->outcome, RunOutcome::finished);
+  EXPECT_EQ(run->faults(), 0U);
+  EXPECT_EQ(gradeOf(account), RunGrade::partial);
+  EXPECT_EQ(account.freeAtStart, 73242U * kBlockBytesOfDisk);
+  EXPECT_EQ(account.shortBy(), account.freeAtStart - account.covered);
+  EXPECT_EQ(world.journal.only({"log partial: of 299999232"}).size(), 1U);
+}
+
+TEST_F(Coverage, MeasuresWhatIsFreeWhenTheRunBegins) {
+  start(300'000'000);
+  takeAllBut(40'000'000);  // since the volume was listed
+  const std::uint64_t left = disk().freeBytes();
+  world.runWorker();
+  EXPECT_EQ(run->account().freeAtStart, left);
+  EXPECT_EQ(gradeOf(run->account()), RunGrade::complete);
+  EXPECT_EQ(world.files.script.count(FileCall::createFile), 3U) << "the number of files stays that of the listed space";
+}
+
+TEST_F(Coverage, ComparesWithTheListedSpaceWhereNothingCanBeMeasured) {
+  start(300'000'000);
+  world.files.volume("/media/DATA").tellsFreeSpace = false;
+  world.runWorker();
+  EXPECT_EQ(run->account().freeAtStart, 300'000'000U);
+  EXPECT_EQ(gradeOf(run->account()), RunGrade::complete);
+}
+
+TEST_F(Coverage, TakesUpTheSpaceThatAnotherProgramFreesDuringTheRun) {
+  world.volume("DATA", 900'000'000);
+  const std::vector<std::size_t> file = takeAllBut(130'000'000);
+  world.volumes.remove("DATA");
+  MountedVolume listed;
+  listed.name = "DATA";
+  listed.mountPath = "/media/DATA";
+  listed.formatDescription = "ext4";
+  listed.availableBytes = disk().freeBytes();
+  listed.totalBytes = 1'000'000'000;
+  world.volumes.add(listed);
+  world.start();
+  run = world.app().currentRun();
+  world.files.script.before(FileCall::pwrite, 100, [&] {
+    for (const std::size_t block : file) disk().release(block);
+  });
+  world.files.script.before(FileCall::releaseSpace, 1, [this] { EXPECT_EQ(disk().freeBytes(), 0U); });
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::finished);
+  EXPECT_EQ(disk().blocksHolding(0x00), disk().blockCount());
+  EXPECT_EQ(disk().takenBlocks(), 0U);
+  EXPECT_EQ(run->numTempFiles, 1U);
+  EXPECT_EQ(run->filePathsArray.back(), "/media/DATA/.$$XE8AQU/.temp7");
+  EXPECT_THAT(world.journal.only({"setProgress"}),
+              ::testing::IsSupersetOf({"setProgress 1", "setProgress 50", "setProgress 66", "setProgress 87"}));
+  EXPECT_EQ(world.journal.only({"removeItem"}).size(), 8U);
+}
+
+TEST_F(Coverage, EndsOnAVolumeThatTakesNoSpaceForWhatIsWritten) {
+  world.files.setHandleLimit(0);  // each file's space is free again once it is written
+  start(300'000'000);
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::finished);
+  EXPECT_GE(run->counters.bytesCovered, 600'000'000U) << "as much as the volume holds";
+  EXPECT_LT(run->counters.bytesCovered, 600'000'000U + 128'000'000U);
 }
 
 TEST_F(Coverage, TakesAFileThatCannotBeOpenedForAFaultEvenOnAFullVolume) {

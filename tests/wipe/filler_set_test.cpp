@@ -155,7 +155,8 @@ TEST_F(FillerSet, WritesTheStatusInsteadOfAPanelInRemoteModeWhenTheVolumeIsGone)
   AppDelegate& app = world.launch();
   world.eject("DATA");
   app.createFile(*app.currentRun());
-  EXPECT_THAT(world.steps(), ElementsAre("setTag cvrStatus \"3\"", "terminate"));
+  EXPECT_THAT(world.steps(), ElementsAre("setTag cvrResult \"failed free=0 covered=0 not-held=0 faults=0\"",
+                                         "setTag cvrStatus \"3\"", "terminate"));
 }
 
 TEST_F(FillerSet, GoesOnWithoutAReportWhenTheDirectoryCannotBeMade) {
@@ -183,6 +184,44 @@ TEST_F(FillerSet, GoesOnWithoutAReportWhenAFileCannotBeMade) {
   layOut();
   EXPECT_EQ(run->filePathsArray.size(), 3U);
   EXPECT_THAT(world.files.names(World::kDirectory), ElementsAre(".temp0", ".temp2"));
+  EXPECT_THAT(world.journal.only({"alert"}), IsEmpty());
+}
+
+TEST_F(FillerSet, StopsAsFailedAfterSixteenFailuresInARowOnAVolumeThatClaimsAbsurdSpace) {
+  MountedVolume absurd;
+  absurd.name = "DATA";
+  absurd.mountPath = "/media/DATA";
+  absurd.formatDescription = "ext4";
+  absurd.availableBytes = absurd.totalBytes = std::uint64_t{1} << 40;
+  world.files.addVolume("/media/DATA", 1'000'000);
+  world.volumes.add(absurd);
+  world.files.script.failFrom(FileCall::createFile, 5, ErrorCode::full);
+  layOut();
+  EXPECT_EQ(run->filePathsArray.size(), 20U);
+  EXPECT_THAT(world.journal.only({"alert", "terminate"}), ElementsAre(kUnknownErrorAlert, "terminate"));
+  EXPECT_EQ(run->outcome, RunOutcome::failed);
+  EXPECT_EQ(run->faults(), 16U);
+}
+
+TEST_F(FillerSet, StopsAnOrderedRunWithItsStatusAfterSixteenFailuresInARow) {
+  world.volume("DATA", 20 * 128'000'000ULL);
+  world.order("DATA", "1");
+  world.files.script.failFrom(FileCall::createFile, 1, ErrorCode::other);
+  world.launch();
+  world.runWorker();
+  EXPECT_EQ(world.tags.peek("cvrStatus"), "3");
+  EXPECT_EQ(world.files.script.count(FileCall::createFile), 16U);
+  EXPECT_EQ(world.loop.terminations(), 1);
+  EXPECT_FALSE(world.files.directoryExists(World::kDirectory));
+}
+
+TEST_F(FillerSet, GoesOnAfterFailuresThatDoNotFollowOneAnother) {
+  world.volume("DATA", 40 * 128'000'000ULL);
+  for (std::size_t nth = 1; nth <= 41; ++nth) {
+    if (nth % 16 != 0) world.files.script.failAt(FileCall::createFile, nth, ErrorCode::other);
+  }
+  layOut();
+  EXPECT_EQ(run->filePathsArray.size(), 41U);
   EXPECT_THAT(world.journal.only({"alert"}), IsEmpty());
 }
 

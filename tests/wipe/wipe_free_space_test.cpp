@@ -106,7 +106,9 @@ TEST_F(FreeSpaceWipe, WritesTheStatusInRemoteModeWhenAFileVanished) {
   reachLoopOfOrderedRun();
   world.files.removeFromOutside(World::kDirectory, ".temp0");
   wipe();
-  EXPECT_THAT(world.steps(), ElementsAre("setProgress 1", "exists .temp0", "setTag cvrStatus \"3\"", "terminate"));
+  EXPECT_THAT(world.steps(), ElementsAre("setProgress 1", "exists .temp0",
+                                         "setTag cvrResult \"failed free=299999232 covered=0 not-held=0 faults=0\"",
+                                         "setTag cvrStatus \"3\"", "terminate"));
   EXPECT_EQ(run->volumeEjected, 1);
 }
 

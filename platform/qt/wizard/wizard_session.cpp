@@ -182,13 +182,13 @@ void WizardSession::tellLostVolume() {
 }
 
 void WizardSession::showOutcome() {
-  if (run_->outcome == RunOutcome::finished && run_->isFlawedByRemainsOnly() && !isFlawed_) {
+  const bool isComplete = run_->outcome == RunOutcome::finished && gradeOf(run_->account()) == RunGrade::complete;
+  if (isComplete && !isFlawed_ && run_->remains().failed()) {
     ports_.window.setOutcome(remainsText(ports_.suite.texts, run_->remains()), OutcomeKind::warning);
     return;
   }
-  const bool isFlawed = isFlawed_ || run_->faults() != 0;
-  const bool isFine = run_->outcome == RunOutcome::finished && !isFlawed;
-  ports_.window.setOutcome(outcomeText(ports_.suite.texts, run_->outcome, isFlawed, run_->volume.name()),
+  const bool isFine = isComplete && !isFlawed_;
+  ports_.window.setOutcome(outcomeText(ports_.suite.texts, *run_, isFlawed_),
                            isFine ? OutcomeKind::finished : OutcomeKind::warning);
 }
 

@@ -19,9 +19,8 @@ std::string administratorText(const Localisation& texts);
 /// Why there is no such command: root must not start that program.
 std::string untrustedProgramText(const Localisation& texts, const std::string& program);
 
-/// How a run on the volume of that name has ended. A flawed one went to its end, but some writes failed or some space
-/// could not be covered.
-std::string outcomeText(const Localisation& texts, RunOutcome outcome, bool isFlawed, const std::string& volume);
+/// How a run has ended. A flawed one left something undone that its account does not tell.
+std::string outcomeText(const Localisation& texts, const WipeRun& run, bool isFlawed);
 
 /// How a run has ended whose one flaw is what it could not remove.
 std::string remainsText(const Localisation& texts, const Error& remains);

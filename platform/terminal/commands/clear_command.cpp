@@ -27,6 +27,7 @@ Answer clearOrder(OrderTags& tags, const RunLookup& isUnderWay) {
              {kTagDrive, ""},
              {kTagAlgo, ""},
              {kTagCancel, ""},
+             {kTagResult, ""},
              {kTagStatus, ""},
              {kTagNamed, ""},
              {kTagMountPath, ""},

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/terminal/exit_code.h"
+#include "app/exit_code.h"
 
 namespace calvero {
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "app/exit_code.h"
 #include "platform/linux/detached_threads.h"
 #include "platform/linux/kernel_random.h"
 #include "platform/linux/linux_volumes.h"
@@ -10,7 +11,6 @@
 #include "platform/linux/steady_clock.h"
 #include "platform/linux/syslog_log.h"
 #include "platform/terminal/asio_event_loop.h"
-#include "platform/terminal/exit_code.h"
 #include "platform/terminal/line_input.h"
 #include "platform/terminal/output.h"
 #include "platform/terminal/terminal_alerts.h"

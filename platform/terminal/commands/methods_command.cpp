@@ -109,8 +109,13 @@ std::string methodsTable() {
 
 std::string shortMethodsTable() {
   std::vector<std::vector<std::string>> rows;
-  for (const EraseMethod& method : kMethodCatalogue) rows.push_back(shortRow(method));
-  return table(shortColumns(), rows);
+  std::string warnings;
+  for (const EraseMethod& method : kMethodCatalogue) {
+    rows.push_back(shortRow(method));
+    if (method.passes != 0) continue;
+    warnings += "Method " + std::to_string(method.number + 1) + " writes nothing: what was deleted stays readable.\n";
+  }
+  return table(shortColumns(), rows) + warnings;
 }
 
 std::string methodsJson() {

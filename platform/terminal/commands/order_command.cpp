@@ -31,7 +31,8 @@ std::string whyTheEarlierOrderStands(const PendingOrder& earlier, const RunLooku
 /// An old status or request must not be taken for one of this run. What makes it an order comes last, for readers that
 /// see one value after the other.
 std::vector<TagValue> tagsOf(const NewOrder& order) {
-  return {{kTagStatus, ""},
+  return {{kTagResult, ""},
+          {kTagStatus, ""},
           {kTagCancel, ""},
           {kTagDrive, order.volume},
           {kTagAlgo, std::to_string(order.method + 1)},

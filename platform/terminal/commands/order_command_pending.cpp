@@ -19,6 +19,7 @@ PendingOrder readPendingOrder(OrderTags& tags) {
           .method = tags.value(kTagAlgo),
           .status = tags.value(kTagStatus),
           .cancel = tags.value(kTagCancel),
+          .result = tags.value(kTagResult),
           .named = tags.value(kTagNamed),
           .mountPath = tags.value(kTagMountPath),
           .volumeUuid = tags.value(kTagVolumeUuid)};

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "app/exit_code.h"
 #include "platform/terminal/commands/order_tags.h"
-#include "platform/terminal/exit_code.h"
 
 namespace calvero {
 
@@ -17,6 +17,7 @@ struct PendingOrder {
   std::string method;  ///< as it was ordered; see `orderedMethod`
   std::string status;
   std::string cancel;
+  std::string result;      ///< what became of the run beyond its status; see remote/order_result.h
   std::string named;       ///< what `volume` was when the next two were stored
   std::string mountPath;   ///< see `isPinned`
   std::string volumeUuid;  ///< likewise

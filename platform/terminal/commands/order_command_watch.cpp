@@ -1,5 +1,7 @@
 #include "platform/terminal/commands/order_command_watch.h"
 
+#include "platform/terminal/commands/command_words.h"
+#include "remote/order_result.h"
 #include "remote/remote_order.h"
 
 namespace calvero {
@@ -25,6 +27,7 @@ void OrderWatch::readTags() {
   // Empty when the run was ordered: "1" is a request, "0" one that the run has followed.
   isCancelAsked_ = isCancelAsked_ || !tags_.value(kTagCancel).empty();
   status_ = tags_.value(kTagStatus);
+  result_ = tags_.value(kTagResult);  // behind the status, since it is stored before that
 }
 
 /// The tags have no status for a cancel.
@@ -33,21 +36,35 @@ bool OrderWatch::isCancelled() const {
   return status_ == kStatusFailed && isCancelAsked_;
 }
 
-Answer OrderWatch::result(const std::string& volume, std::int32_t method) const {
-  const std::string meaning = "; deleted data may remain readable there. ";
-  if (status_ == kStatusFinished) {
-    if (program_.exitCode() == static_cast<int>(ExitCode::failed)) {
-      return {ExitCode::failed, "Failed: calvero could not write everything on " + volume + meaning + kStaysPending};
-    }
-    return {ExitCode::finished,
-            "Finished: free space erased on " + volume + " with " + numberAndWord(method) + ". " + kStaysPending};
+/// A run has come to its end. What it came to the tags tell, or the exit code where no such tag was written.
+Answer OrderWatch::finished(const std::string& volume, std::int32_t method) const {
+  const std::string with = " on " + volume + " with " + numberAndWord(method);
+  const auto result = resultOfStatus(result_, status_);
+  if (result && result->grade == RunGrade::partial) {
+    return {ExitCode::failed, "Partial: " + overwrittenText(result->account) + " of free space erased" + with +
+                                  kMayRemain + ". " + kStaysPending};
   }
+  if (result && result->grade == RunGrade::nothing) {
+    return {ExitCode::finished, std::string(kNothingOverwritten) + ' ' + kStaysPending};
+  }
+  if (program_.exitCode() == static_cast<int>(ExitCode::failed)) {
+    return {ExitCode::failed,
+            "Failed: calvero could not write everything on " + volume + kMayRemain + ". " + kStaysPending};
+  }
+  return {ExitCode::finished, "Finished: free space erased" + with + ". " + kStaysPending};
+}
+
+Answer OrderWatch::result(const std::string& volume, std::int32_t method) const {
+  const std::string meaning = std::string(kMayRemain) + ". ";
+  if (status_ == kStatusFinished) return finished(volume, method);
   if (isCancelled()) {
     return {ExitCode::cancelled, "Cancelled: the run on " + volume + " was not completed. " + kStaysPending};
   }
   if (status_ == kStatusFailed) {
-    return {ExitCode::failed,
-            "Failed: the volume or the filler files on " + volume + " are gone" + meaning + kStaysPending};
+    const auto result = resultOfStatus(result_, status_);
+    const std::string cause = result ? causeText(result->cause, volume) : "";
+    const std::string gone = "the volume or the filler files on " + volume + " are gone";
+    return {ExitCode::failed, "Failed: " + (cause.empty() ? gone : cause) + meaning + kStaysPending};
   }
   return {ExitCode::failed,
           "Failed: calvero ended without a status (" + program_.ending() + ") on " + volume + meaning + kStaysPending};

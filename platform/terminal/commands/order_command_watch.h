@@ -28,11 +28,13 @@ class OrderWatch {
  private:
   void readTags();
   [[nodiscard]] bool isCancelled() const;
+  [[nodiscard]] Answer finished(const std::string& volume, std::int32_t method) const;
 
   OrderTags& tags_;
   StartedProgram& program_;
   const std::function<bool()> hasLeft_;
   std::string status_;
+  std::string result_;
   bool isCancelAsked_ = false;
 };
 

@@ -6,8 +6,10 @@
 #include "platform/suite/suite_folder.h"
 #include "platform/terminal/commands/command_list.h"
 #include "platform/terminal/commands/command_runs.h"
+#include "platform/terminal/commands/command_words.h"
 #include "platform/terminal/json_text.h"
 #include "platform/terminal/text.h"
+#include "remote/order_result.h"
 #include "remote/remote_order.h"
 
 namespace calvero {
@@ -25,8 +27,21 @@ std::string statusWord(const std::string& status) {
   return status == kStatusFailed ? "failed" : "unknown";
 }
 
-std::string statusInWords(const std::string& status) {
+std::string failureInWords(const PendingOrder& order, const OrderResult& result) {
+  if (result.outcome == RunOutcome::cancelled) return "the run was cancelled";
+  const std::string cause = causeText(result.cause, printable(order.volume));
+  return cause.empty() ? "the volume is missing or vanished" : cause;
+}
+
+std::string statusInWords(const PendingOrder& order) {
+  const std::string& status = order.status;
+  const auto result = resultOfStatus(order.result, status);
   if (status.empty()) return "none yet";
+  if (result && status == kStatusFailed) return "3, not finished: " + failureInWords(order, *result);
+  if (result && result->grade == RunGrade::partial) {
+    return "2, finished in part: " + overwrittenText(result->account) + " of free space erased" + kMayRemain;
+  }
+  if (result && result->grade == RunGrade::nothing) return std::string("2, finished. ") + kNothingOverwritten;
   if (status == kStatusFinished) return "2, finished";
   if (status == kStatusFailed) return "3, not finished: the volume is missing or vanished, or the run was cancelled";
   return "unknown: \"" + printable(status) + "\"";
@@ -48,7 +63,7 @@ std::string statusText(const PendingOrder& order, RunState run) {
   }
   text += std::string("Run:    ") + (run == RunState::underWay ? "under way" : "none") + '\n';
   if (order.cancel == "1") text += "Cancel: asked for\n";
-  return text + "Status: " + (order.exists() || order.hasEnded() ? statusInWords(order.status) : "none") + '\n';
+  return text + "Status: " + (order.exists() || order.hasEnded() ? statusInWords(order) : "none") + '\n';
 }
 
 std::string statusJson(const PendingOrder& order, RunState run) {
@@ -66,6 +81,11 @@ std::string statusJson(const PendingOrder& order, RunState run) {
   const bool isKnown = order.status == kStatusFinished || order.status == kStatusFailed;
   json["status"] = isKnown ? nlohmann::ordered_json(std::stoi(order.status)) : nullptr;
   json["outcome"] = word;
+  const auto result = resultOfStatus(order.result, order.status);
+  const bool isFinished = result && result->outcome == RunOutcome::finished;
+  json["grade"] = isFinished ? nlohmann::ordered_json(wordOf(result->grade)) : nullptr;
+  json["bytesOverwritten"] = result ? nlohmann::ordered_json(result->account.overwritten()) : nullptr;
+  json["shortBy"] = result ? nlohmann::ordered_json(result->account.shortBy()) : nullptr;
   return jsonText(json);
 }
 

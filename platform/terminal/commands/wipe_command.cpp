@@ -128,24 +128,34 @@ class WipeCommand {
     report_.seconds = session.seconds();
     const bool isMounted = report_.exitCode != ExitCode::failed || app_.getVolumePath(report_.volume).has_value();
     const std::string failure = failureLine(report_, isMounted);
-    if (!failure.empty()) printError(failure);
+    if (!failure.empty()) tell(failure);
     const bool isCancelled = report_.outcome == RunOutcome::cancelled || report_.exitCode == ExitCode::cancelled;
-    if (isCancelled) printError(closingLine(report_));
-    if (const std::string remains = remainsLine(report_); !remains.empty()) printError(remains);
-    if (report_.exitCode == ExitCode::refused) printError(refusalLine(report_, report_.refusal));
-    if (report_.outcome == RunOutcome::finished && !request_.json) Output(STDOUT_FILENO).line(closingLine(report_));
+    if (isCancelled) tell(closingLine(report_));
+    if (const std::string remains = remainsLine(report_); !remains.empty()) tell(remains);
+    if (report_.exitCode == ExitCode::refused) tell(refusalLine(report_, report_.refusal));
+    if (report_.outcome == RunOutcome::finished) conclude(closingLine(report_));
     printJson();
+  }
+
+  void conclude(const std::string& line) {
+    if (report_.message.empty()) report_.message = line;
+    if (!request_.json) Output(STDOUT_FILENO).line(line);
+  }
+
+  void tell(const std::string& line) {
+    report_.message = line;
+    printError(line);
   }
 
   bool refuse(const std::string& line) {
     report_.exitCode = ExitCode::refused;
-    printError(line);
+    tell(line);
     return false;
   }
 
   bool cancel() {
     report_.exitCode = ExitCode::cancelled;
-    printError(closingLine(report_));
+    tell(closingLine(report_));
     return false;
   }
 

@@ -3,6 +3,7 @@
 #include "app/app_delegate.h"
 #include "methods/method_catalogue.h"
 #include "platform/linux/administrator.h"
+#include "platform/terminal/commands/command_words.h"
 #include "platform/terminal/json_text.h"
 #include "platform/terminal/text.h"
 #include "wipe/lost_volume.h"
@@ -26,23 +27,23 @@ std::string outcomeWord(const WipeReport& report) {
 
 std::string causeOfFailure(const WipeReport& report, bool isMounted) {
   const std::string volume = volumeText(report);
-  if (report.firstFault.code == ErrorCode::readOnly) return volume + " turned read-only during the run";
+  const Error& first = report.cause.failed() ? report.cause : report.firstFault;
+  const std::string cause = causeText(first.code, volume);
+  if (first.code == ErrorCode::readOnly) return cause;
   // First, since that is what can be seen of a volume that was taken away, whatever became of its medium.
   if (!isMounted) return volume + " is not mounted any more";
-  if (report.firstFault.code == ErrorCode::gone) return "the medium of " + volume + " fails or has been pulled";
-  if (report.faults != 0) return printable(report.firstFault.text());
+  // Whatever else is full or over its quota was met by a single step, which tells more.
+  if (report.cause.failed() || first.code == ErrorCode::gone) return cause;
+  if (report.account.faults != 0) return printable(report.firstFault.text());
   return "the filler files on " + volume + " are gone: removed by another program, or the volume was taken away";
 }
 
 /// Faults are of many kinds: files that could not be made, opened, written, flushed or removed.
 std::string stepsFailed(const WipeReport& report) {
-  const std::string count = std::to_string(report.faults) + (report.faults == 1 ? " step" : " steps");
+  const std::uint64_t faults = report.account.faults;
+  const std::string count = std::to_string(faults) + (faults == 1 ? " step" : " steps");
   return count + " of the run failed on " + volumeText(report) +
          ", the first one: " + printable(report.firstFault.text());
-}
-
-bool isFlawedByRemainsOnly(const WipeReport& report) {
-  return report.outcome == RunOutcome::finished && report.remains.failed() && report.faults == 1;
 }
 
 std::string notPermitted(const std::string& volume) {
@@ -57,70 +58,70 @@ std::string volumeText(const WipeReport& report) {
   return printable(report.volume) + " (" + printable(report.mountPath.value_or("not mounted")) + ")";
 }
 
-ExitCode exitCodeOf(RunOutcome outcome, std::uint64_t faults) {
-  switch (outcome) {
-    case RunOutcome::finished:
-      return faults == 0 ? ExitCode::finished : ExitCode::failed;
-    case RunOutcome::failed:
-      return ExitCode::failed;
-    case RunOutcome::cancelled:
-    case RunOutcome::none:
-      break;
-  }
-  return ExitCode::cancelled;
-}
-
 void addRun(WipeReport& report, const WipeRun* run) {
   if (run != nullptr) {
-    report.bytesCovered = run->counters.bytesCovered;
+    report.account = run->account();
     report.bytesWritten = run->counters.bytesWritten;
-    report.faults = run->faults();
     report.firstFault = run->firstFault();
+    report.cause = run->cause();
     report.refusal = run->refusal();
     report.remains = run->remains();
     report.outcome = run->outcome;
   }
-  report.exitCode = exitCodeOf(report.outcome, report.faults);
-  if (report.outcome == RunOutcome::cancelled && report.remains.failed()) report.exitCode = ExitCode::failed;
+  report.exitCode = exitCodeOf(report.outcome, report.account);
   if (report.exitCode == ExitCode::failed && report.refusal.failed()) report.exitCode = ExitCode::refused;
 }
 
 std::string reportJson(const WipeReport& report) {
-  nlohmann::ordered_json json{{"outcome", outcomeWord(report)}, {"volume", report.volume}};
+  const RunAccount& account = report.account;
+  const bool isFinished = report.outcome == RunOutcome::finished;
+  nlohmann::ordered_json json{{"outcome", outcomeWord(report)}};
+  json["grade"] = isFinished ? nlohmann::ordered_json(wordOf(gradeOf(account))) : nullptr;
+  json["message"] = report.message;
+  json["volume"] = report.volume;
   json["mountPath"] = report.mountPath ? nlohmann::ordered_json(*report.mountPath) : nullptr;
   json["method"] = report.method ? nlohmann::ordered_json(*report.method + 1) : nullptr;
   json["passes"] = report.passes;
   json["freeBytes"] = report.freeBytes;
-  json["bytesCovered"] = report.bytesCovered;
+  json["freeAtStart"] = account.freeAtStart;
+  json["bytesCovered"] = account.covered;
   json["bytesWritten"] = report.bytesWritten;
   json["seconds"] = report.seconds;
-  json["faults"] = report.faults;
-  json["firstFault"] = report.faults == 0 ? "" : report.firstFault.text();
+  json["notHeld"] = account.notHeld;
+  json["shortBy"] = account.shortBy();
+  json["faults"] = account.faults;
+  json["firstFault"] = account.faults == 0 ? "" : report.firstFault.text();
+  json["remains"] = report.remains.failed() ? nlohmann::ordered_json(report.remains.path) : nullptr;
   json["exitCode"] = static_cast<int>(report.exitCode);
   return jsonText(json);
 }
 
 std::string closingLine(const WipeReport& report) {
   if (report.outcome == RunOutcome::none) return "Cancelled: nothing was written.";
-  const std::string erased = AppDelegate::getFormattedStringForSize(report.bytesCovered);
+  const std::string erased = AppDelegate::getFormattedStringForSize(report.account.covered);
   const std::string time = AppDelegate::getElapsedTimeForInterval(report.seconds);
   if (report.outcome == RunOutcome::cancelled) {
     return "Cancelled after " + time + ": " + erased + " of " +
            AppDelegate::getFormattedStringForSize(report.freeBytes) + " erased on " + volumeText(report) + ".";
   }
+  const RunGrade grade = gradeOf(report.account);
+  if (grade == RunGrade::nothing) return kNothingOverwritten;
+  const std::string begin =
+      grade == RunGrade::partial ? "Partial: " + overwrittenText(report.account) : "Finished: " + erased;
   const char* word = kMethodCatalogue.at(static_cast<std::size_t>(report.method.value_or(0))).word;
-  return "Finished: " + erased + " of free space erased on " + volumeText(report) + " with method " + word + ", " +
+  return begin + " of free space erased on " + volumeText(report) + " with method " + word + ", " +
          std::to_string(report.passes) + (report.passes == 1 ? " pass" : " passes") + ", in " + time + ".";
 }
 
 std::string failureLine(const WipeReport& report, bool isMounted) {
   if (report.exitCode != ExitCode::failed || report.outcome == RunOutcome::cancelled) return "";
-  if (isFlawedByRemainsOnly(report)) return "";
-  const std::string meaning = "; deleted data may remain readable there";
-  if (report.outcome == RunOutcome::finished && report.firstFault.code != ErrorCode::readOnly) {
-    return stepsFailed(report) + meaning;
+  const bool isFinished = report.outcome == RunOutcome::finished;
+  if (isFinished && gradeOf(report.account) != RunGrade::partial) return "";  // something is left there, and no data
+  if (isFinished && report.account.faults == 0) {
+    return missingText(report.account, volumeText(report)) + kMayRemain;
   }
-  return "Failed: " + causeOfFailure(report, isMounted) + meaning;
+  if (isFinished && report.firstFault.code != ErrorCode::readOnly) return stepsFailed(report) + kMayRemain;
+  return "Failed: " + causeOfFailure(report, isMounted) + kMayRemain;
 }
 
 std::string remainsLine(const WipeReport& report) {

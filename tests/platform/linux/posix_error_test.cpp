@@ -11,7 +11,8 @@ TEST(PosixError, TellsApartTheKindsThatTheControllerKnows) {
   EXPECT_EQ(errorCodeOf(EEXIST), ErrorCode::exists);
   EXPECT_EQ(errorCodeOf(EPERM), ErrorCode::notPermitted);
   EXPECT_EQ(errorCodeOf(EROFS), ErrorCode::readOnly);
-  EXPECT_EQ(errorCodeOf(EDQUOT), ErrorCode::full);
+  EXPECT_EQ(errorCodeOf(ENOSPC), ErrorCode::full);
+  EXPECT_EQ(errorCodeOf(EDQUOT), ErrorCode::overQuota) << "there may be room for others";
   EXPECT_EQ(errorCodeOf(ENFILE), ErrorCode::noHandles);
   EXPECT_EQ(errorCodeOf(ESTALE), ErrorCode::gone);
   EXPECT_EQ(errorCodeOf(EBUSY), ErrorCode::other) << "busy is said of another run only";

@@ -107,11 +107,16 @@ TEST_F(MethodPageTest, ShowsAndSpeaksThePasses) {
 }
 
 TEST_F(MethodPageTest, SaysThatAMethodWithoutPassesWritesNothing) {
+  controls.setText(Control::algorithm_7, "Seventh");
   const QString nothing = "Writes nothing: the free space is laid out and given back as it was.";
   EXPECT_TRUE(find("butFAST_ZERO_WRITE")->accessibleDescription().endsWith(nothing));
   EXPECT_TRUE(find("algorithm_7")->toolTip().contains(nothing));
   EXPECT_FALSE(find("butFastZeroWipe")->accessibleDescription().contains(nothing));
   EXPECT_EQ(find("algorithm_1")->toolTip(), "");
+  showPage();
+  EXPECT_EQ(find<QLabel>("passes_7")->text(), "Writes nothing");
+  EXPECT_TRUE(find("passes_7")->isVisible()) << "not in a tool tip alone";
+  EXPECT_EQ(find("butFAST_ZERO_WRITE")->accessibleName(), "Seventh, Writes nothing");
 }
 
 TEST_F(MethodPageTest, DescribesEachMethodByTheCaptionAboveItAndItsPasses) {

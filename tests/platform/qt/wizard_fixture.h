@@ -98,6 +98,12 @@ class WizardFixture : public ::testing::Test {
   [[nodiscard]] std::string text(const char* label) { return textOf(*named<QLabel>(label)); }
   /// What the completion window says.
   [[nodiscard]] std::string outcome() { return textOf(*completed().findChild<QLabel*>("outcomeText")); }
+  /// Whether it warns by its picture.
+  [[nodiscard]] bool isWarned() {
+    const QLabel* icon = completed().findChild<QLabel*>("outcomeIcon");
+    const QSize size = icon->pixmap().deviceIndependentSize().toSize();
+    return icon->pixmap().toImage() == iconFor(OutcomeKind::warning).pixmap(size, icon->devicePixelRatio()).toImage();
+  }
   [[nodiscard]] int page() { return named<QStackedWidget>("tabView")->currentIndex(); }
   void press(const char* button) { named<QAbstractButton>(button)->click(); }
   static constexpr const char* kYes = "alertDefaultButton";

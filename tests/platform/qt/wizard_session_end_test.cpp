@@ -32,7 +32,7 @@ TEST_F(EndOfWindowSession, CancelsFromTheProgressPageAndRunsAgain) {
     answerNextAlert(kYes, [this] { answerNextAlert(); });
     press("proceedBtn");
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
-    EXPECT_THAT(outcome(), HasSubstr("The free space of DATA has been erased."));
+    EXPECT_THAT(outcome(), HasSubstr("40.00 MB of free space on DATA have been overwritten."));
     EXPECT_EQ(app->currentRun()->outcome, RunOutcome::finished);
   });
 }

@@ -171,7 +171,8 @@ TEST_F(WindowSession, ShowsTheCompletionWindowOfAFinishedRunAndReturnsWithItsOk)
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
     EXPECT_EQ(page(), 2);
-    EXPECT_THAT(outcome(), HasSubstr("The free space of DATA has been erased."));
+    EXPECT_FALSE(isWarned());
+    EXPECT_THAT(outcome(), HasSubstr("299.01 KB of free space on DATA have been overwritten."));
     QTest::keyClick(&completed(), Qt::Key_Return);
     ASSERT_TRUE(comesTrue([this] { return page() == 0; }));
     EXPECT_FALSE(completed().isVisible());
@@ -211,7 +212,8 @@ TEST_F(WindowSession, WarnsWhenWritesOfAFinishedRunFailed) {
     files.script.failAt(FileCall::fsync, 2, ErrorCode::other);
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
-    EXPECT_THAT(outcome(), HasSubstr("Part of the free space of DATA could not be erased."));
+    EXPECT_THAT(outcome(), HasSubstr("Only 266.24 KB of 299.01 KB of free space on DATA have been overwritten."));
+    EXPECT_THAT(outcome(), HasSubstr("Deleted data may still be readable there."));
   });
 }
 
@@ -223,7 +225,48 @@ TEST_F(WindowSession, WarnsWhenAnotherProgramGaveBackSpaceBeforeTheEnd) {
                         [this] { files.removeFromOutside("/media/DATA/.$$XE8AQU", ".temp0"); });
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
-    EXPECT_THAT(outcome(), HasSubstr("Part of the free space of DATA could not be erased."));
+    EXPECT_THAT(outcome(), HasSubstr("Only 0.00 KB of 299.01 KB of free space on DATA have been overwritten."));
+  });
+}
+
+TEST_F(WindowSession, WarnsWhereAnotherProgramTookTheSpaceDuringTheRun) {
+  mountVolume("DATA", 40'000'000);
+  use([this] {
+    files.script.before(FileCall::pwrite, 10, [this] {
+      auto& disk = files.volume("/media/DATA").disk;
+      for (int block = 0; block < 5000; ++block) disk.allocate();
+    });
+    startRun();
+    ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
+    EXPECT_THAT(outcome(), HasSubstr("Only 19.52 MB of 40.00 MB of free space on DATA have been overwritten."));
+    EXPECT_TRUE(isWarned());
+  });
+}
+
+TEST_F(WindowSession, WarnsThatAMethodWithoutDataHasOverwrittenNothing) {
+  mountVolume("DATA");
+  use([this] {
+    press("buttonNext");
+    press("butFAST_ZERO_WRITE");
+    answerNextAlert(kYes, [this] { answerNextAlert(); });
+    press("proceedBtn");
+    ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
+    EXPECT_EQ(outcome(), "Nothing was overwritten: this method writes no data.");
+    EXPECT_TRUE(isWarned());
+  });
+}
+
+TEST_F(WindowSession, TellsThatTheStorageBehindADriveIsFullAsALostDrive) {
+  mountVolume("DATA");
+  use([this] {
+    files.script.failAt(FileCall::fsync, 2, ErrorCode::full);
+    startRun();
+    ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
+    EXPECT_THAT(outcome(), HasSubstr("The storage behind the drive DATA is full or failing."));
+    EXPECT_TRUE(isWarned());
+    ASSERT_TRUE(comesTrue([this] { return page() == 0; }));
+    EXPECT_EQ(app->shell().wipingProcessOn, 0);
+    EXPECT_FALSE(files.directoryExists("/media/DATA/.$$XE8AQU"));
   });
 }
 

@@ -9,6 +9,8 @@
 namespace calvero {
 namespace {
 
+using ::testing::ContainsRegex;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
 TEST(MethodNamed, IsOneBased) {
@@ -66,11 +68,19 @@ TEST(MethodsTable, HasALineForEachMethodAndOneForTheHeadings) {
   EXPECT_THAT(text, HasSubstr("V.S.I.T.R. (German Standard)"));
 }
 
+TEST(ShortMethodsTable, WarnsOfTheMethodThatWritesNothing) {
+  EXPECT_THAT(shortMethodsTable(), EndsWith("\nMethod 7 writes nothing: what was deleted stays readable.\n"));
+}
+
+TEST(MethodsTable, SaysWhichMethodWritesNothing) {
+  EXPECT_THAT(methodsTable(), ContainsRegex("  7  none              0  Fast Zero Write [^\n]*  nothing\n"));
+}
+
 TEST(ShortMethodsTable, FitsATerminalOfEightyColumns) {
   std::istringstream lines(shortMethodsTable());
   int count = 0;
   for (std::string line; std::getline(lines, line); ++count) EXPECT_LE(line.size(), 80U) << line;
-  EXPECT_EQ(count, 10);
+  EXPECT_EQ(count, 11) << "the last one is a warning";
 }
 
 }  // namespace

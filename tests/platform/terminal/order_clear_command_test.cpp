@@ -27,7 +27,7 @@ TEST_F(ClearOrder, LeavesNoOrderAndNothingOfIt) {
   const Answer answer = clear();
   EXPECT_EQ(answer.exitCode, ExitCode::finished);
   EXPECT_THAT(answer.line, HasSubstr("stick"));
-  EXPECT_THAT(journal_.all(), ElementsAre("store cvrOnline=0 cvrDrive= cvrAlgo= CVRCANCEL= cvrStatus= "
+  EXPECT_THAT(journal_.all(), ElementsAre("store cvrOnline=0 cvrDrive= cvrAlgo= CVRCANCEL= cvrResult= cvrStatus= "
                                           "cvrNamed= cvrMountPath= cvrVolumeUuid="));
   EXPECT_FALSE(readPendingOrder(tags_).exists());
 }

@@ -23,8 +23,8 @@ using ::testing::Not;
 using ::testing::StartsWith;
 
 constexpr const char* kStored =
-    "store cvrStatus= CVRCANCEL= cvrDrive=stick cvrAlgo=3 cvrMountPath=/media/stick cvrVolumeUuid=12-34 cvrNamed=stick "
-    "cvrOnline=1";
+    "store cvrResult= cvrStatus= CVRCANCEL= cvrDrive=stick cvrAlgo=3 cvrMountPath=/media/stick cvrVolumeUuid=12-34 "
+    "cvrNamed=stick cvrOnline=1";
 
 class PlaceOrder : public ::testing::Test {
  protected:
@@ -178,6 +178,34 @@ TEST_F(OrderWatchTest, ReportsFailedWritesOfAFinishedRunAsFailed) {
   EXPECT_TRUE(look());
   EXPECT_EQ(result().exitCode, ExitCode::failed);
   EXPECT_THAT(result().line, AllOf(StartsWith("Failed: "), HasSubstr("may remain readable")));
+}
+
+TEST_F(OrderWatchTest, ReportsAPartialRunInBytesAsFailed) {
+  tags_.put(kTagResult, "partial free=111000000 covered=9200000");
+  tags_.put(kTagStatus, kStatusFinished);
+  program_.endWithoutCode("in an unknown way");
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::failed);
+  EXPECT_THAT(result().line, AllOf(StartsWith("Partial: 9.20 MB of 111.00 MB of free space erased on stick"),
+                                   HasSubstr("may remain readable")));
+}
+
+TEST_F(OrderWatchTest, SaysThatARunWithoutDataHasOverwrittenNothing) {
+  tags_.put(kTagResult, "nothing free=111000000 covered=0");
+  tags_.put(kTagStatus, kStatusFinished);
+  program_.end();
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::finished);
+  EXPECT_THAT(result().line, StartsWith("Nothing was overwritten: this method writes no data. "));
+}
+
+TEST_F(OrderWatchTest, TellsWhyARunWasEndedAtOnce) {
+  tags_.put(kTagResult, "failed free=5 covered=1 cause=storage-full");
+  tags_.put(kTagStatus, kStatusFailed);
+  program_.end(1);
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::failed);
+  EXPECT_THAT(result().line, HasSubstr("the storage under stick (/media/stick) is full"));
 }
 
 TEST_F(OrderWatchTest, ReportsALostVolumeAsFailed) {

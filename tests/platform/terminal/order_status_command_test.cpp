@@ -18,6 +18,7 @@ PendingOrder orderOf(const std::string& volume, const std::string& method, const
           .method = method,
           .status = status,
           .cancel = "",
+          .result = "",
           .named = "",
           .mountPath = "",
           .volumeUuid = ""};
@@ -64,6 +65,26 @@ TEST(StatusText, SaysTheStatusInWordsAndAsANumber) {
   EXPECT_THAT(statusText(orderOf("stick", "3", "3"), RunState::none), HasSubstr("Status: 3, not finished: "));
 }
 
+TEST(StatusText, TellsWhatTheStatusDoesNot) {
+  const auto statusLineOf = [](const char* status, const char* result) {
+    PendingOrder order = orderOf("stick", "3", status);
+    order.result = result;
+    const std::string text = statusText(order, RunState::none);
+    return text.substr(text.find("Status: "));
+  };
+  EXPECT_EQ(statusLineOf("2", "complete free=5 covered=5"), "Status: 2, finished\n");
+  EXPECT_EQ(statusLineOf("2", "partial free=111000000 covered=9200000"),
+            "Status: 2, finished in part: 9.20 MB of 111.00 MB of free space erased; deleted data may remain readable "
+            "there\n");
+  EXPECT_EQ(statusLineOf("2", "nothing"),
+            "Status: 2, finished. Nothing was overwritten: this method writes no data.\n");
+  EXPECT_EQ(statusLineOf("3", "cancelled"), "Status: 3, not finished: the run was cancelled\n");
+  EXPECT_EQ(statusLineOf("3", "failed"), "Status: 3, not finished: the volume is missing or vanished\n");
+  EXPECT_THAT(statusLineOf("3", "failed cause=storage-full"), HasSubstr("the storage under stick is full"));
+  EXPECT_THAT(statusLineOf("3", "partial free=1"), HasSubstr("vanished, or the run was cancelled"))
+      << "an earlier run's";
+}
+
 TEST(StatusText, TellsOfARequestToCancel) {
   PendingOrder order = orderOf("stick", "3");
   EXPECT_THAT(statusText(order, RunState::underWay), Not(HasSubstr("Cancel")));
@@ -93,7 +114,8 @@ TEST(StatusJson, IsNullWhereThereIsNoOrder) {
       jsonOf({}),
       nlohmann::json::parse(
           R"({"pending": false, "volume": null, "method": null, "mountPath": null, "volumeUuid": null, "running": false,
-      "cancelAsked": false, "status": null, "outcome": "none"})"));
+      "cancelAsked": false, "status": null, "outcome": "none", "grade": null, "bytesOverwritten": null,
+      "shortBy": null})"));
 }
 
 TEST(StatusJson, GivesTheOrderItsRunAndItsStatus) {
@@ -103,7 +125,17 @@ TEST(StatusJson, GivesTheOrderItsRunAndItsStatus) {
       jsonOf(order, RunState::underWay),
       nlohmann::json::parse(
           R"({"pending": true, "volume": "stick", "method": 9, "mountPath": null, "volumeUuid": null, "running": true,
-      "cancelAsked": true, "status": 3, "outcome": "failed"})"));
+      "cancelAsked": true, "status": 3, "outcome": "failed", "grade": null, "bytesOverwritten": null,
+      "shortBy": null})"));
+}
+
+TEST(StatusJson, GivesTheGradeOfAFinishedRun) {
+  PendingOrder order = orderOf("stick", "3", "2");
+  order.result = "partial free=111000000 covered=9200000";
+  EXPECT_EQ(jsonOf(order)["outcome"], "finished");
+  EXPECT_EQ(jsonOf(order)["grade"], "partial");
+  EXPECT_EQ(jsonOf(order)["bytesOverwritten"], 9'200'000);
+  EXPECT_EQ(jsonOf(order)["shortBy"], 101'800'000);
 }
 
 TEST(StatusJson, KnowsTheTwoStatusesOnly) {

@@ -26,26 +26,74 @@ WipeReport reportOf(RunOutcome outcome, std::uint64_t faults = 0, ErrorCode code
   report.method = 2;
   report.passes = 3;
   report.freeBytes = 2'000'000'000;
-  report.bytesCovered = 1'000'000'000;
+  report.account = {
+      .freeAtStart = 1'005'000'000, .covered = 1'000'000'000, .notHeld = 0, .faults = faults, .passes = 3};
   report.bytesWritten = 3'000'000'000;
   report.seconds = 3725.5;
-  report.faults = faults;
   if (faults != 0) report.firstFault = {code, "pwrite", "/media/stick/.temp0", "Input/output error"};
   report.outcome = outcome;
-  report.exitCode = exitCodeOf(outcome, faults);
+  report.exitCode = exitCodeOf(outcome, report.account);
   return report;
 }
 
-TEST(ExitCodeOf, FollowsTheOutcome) {
-  EXPECT_EQ(exitCodeOf(RunOutcome::finished, 0), ExitCode::finished);
-  EXPECT_EQ(exitCodeOf(RunOutcome::failed, 0), ExitCode::failed);
-  EXPECT_EQ(exitCodeOf(RunOutcome::cancelled, 0), ExitCode::cancelled);
-  EXPECT_EQ(exitCodeOf(RunOutcome::none, 0), ExitCode::cancelled) << "declined";
+WipeReport finishedWith(const RunAccount& account) {
+  WipeReport report = reportOf(RunOutcome::finished);
+  report.account = account;
+  report.exitCode = exitCodeOf(report.outcome, account);
+  return report;
 }
 
-TEST(ExitCodeOf, IsNoSuccessWithFaults) {
-  EXPECT_EQ(exitCodeOf(RunOutcome::finished, 1), ExitCode::failed);
-  EXPECT_EQ(exitCodeOf(RunOutcome::cancelled, 1), ExitCode::cancelled);
+constexpr RunAccount kShort{.freeAtStart = 111'000'000, .covered = 9'200'000, .notHeld = 0, .faults = 0, .passes = 1};
+constexpr RunAccount kNothing{.freeAtStart = 111'000'000, .covered = 0, .notHeld = 0, .faults = 0, .passes = 0};
+
+TEST(PartialRun, IsToldInBytesAndIsNoSuccess) {
+  const WipeReport report = finishedWith(kShort);
+  EXPECT_EQ(report.exitCode, ExitCode::failed);
+  EXPECT_EQ(closingLine(report),
+            "Partial: 9.20 MB of 111.00 MB of free space erased on stick (/media/stick) with method dod, 3 passes, in "
+            "01:02:05.");
+  EXPECT_EQ(failureLine(report, kMounted),
+            "101.80 MB of the free space of stick (/media/stick) have not been overwritten: another program took them "
+            "during the run, or the file system gave no more; deleted data may remain readable there");
+  const auto json = nlohmann::json::parse(reportJson(report));
+  EXPECT_EQ(json["outcome"], "finished");
+  EXPECT_EQ(json["grade"], "partial");
+  EXPECT_EQ(json["shortBy"], 101'800'000);
+  EXPECT_EQ(json["notHeld"], 0);
+  EXPECT_EQ(json["freeAtStart"], 111'000'000);
+  EXPECT_EQ(json["exitCode"], 1);
+}
+
+TEST(PartialRun, TellsOfSpaceThatCouldNotBeHeld) {
+  RunAccount account = kShort;
+  account.covered = 111'000'000;
+  account.notHeld = 5'000'000;
+  const WipeReport report = finishedWith(account);
+  EXPECT_EQ(report.exitCode, ExitCode::failed);
+  EXPECT_THAT(failureLine(report, kMounted), StartsWith("5.00 MB of the space overwritten on stick"));
+  EXPECT_THAT(closingLine(report), StartsWith("Partial: 106.00 MB of 111.00 MB of free space erased on stick"));
+}
+
+TEST(RunWithoutData, SaysSoAndIsASuccess) {
+  const WipeReport report = finishedWith(kNothing);
+  EXPECT_EQ(report.exitCode, ExitCode::finished);
+  EXPECT_EQ(closingLine(report), "Nothing was overwritten: this method writes no data.");
+  EXPECT_EQ(failureLine(report, kMounted), "");
+  EXPECT_EQ(nlohmann::json::parse(reportJson(report))["grade"], "nothing");
+}
+
+TEST(FailedRun, SaysWhatAFailedFlushMeans) {
+  const auto lineFor = [](ErrorCode cause) {
+    WipeReport report = reportOf(RunOutcome::failed, 2);
+    report.cause.code = cause;
+    return failureLine(report, kMounted);
+  };
+  EXPECT_EQ(lineFor(ErrorCode::storageFull),
+            "Failed: the storage under stick (/media/stick) is full: it dropped what the volume had taken already, and "
+            "more would damage the file system; deleted data may remain readable there");
+  EXPECT_THAT(lineFor(ErrorCode::overQuota), HasSubstr("the quota on stick (/media/stick) is used up"));
+  EXPECT_THAT(lineFor(ErrorCode::gone), HasSubstr("the medium of stick (/media/stick) fails"));
+  EXPECT_TRUE(nlohmann::json::parse(reportJson(reportOf(RunOutcome::failed, 2)))["grade"].is_null());
 }
 
 TEST(ClosingLine, TellsWhatWasErased) {
@@ -111,14 +159,17 @@ TEST(RefusalLine, SaysNoAboutTheAdministratorOnlyOnce) {
 }
 
 TEST(RemainsLine, NamesWhatIsLeftWhyAndWhatToDo) {
-  WipeReport report = reportOf(RunOutcome::finished, 1);
+  WipeReport report = reportOf(RunOutcome::finished);
   EXPECT_EQ(remainsLine(report), "");
+  report.account.directoryStays = true;
+  report.exitCode = exitCodeOf(report.outcome, report.account);
+  EXPECT_EQ(report.exitCode, ExitCode::failed);
   report.remains = {ErrorCode::notPermitted, "unlinkat", "/media/stick/.x", "Operation not permitted"};
   EXPECT_EQ(remainsLine(report),
             "/media/stick/.x could not be removed (Operation not permitted); lift what protects it or the folder above "
             "it (chattr -a -i, permissions), then remove it, or start another run, which does");
   EXPECT_EQ(failureLine(report, kMounted), "") << "no deleted data remains readable for it";
-  report.faults = 2;
+  report.account.faults = 2;
   EXPECT_THAT(failureLine(report, kMounted), HasSubstr("2 steps of the run failed"));
   report.remains.code = ErrorCode::gone;
   EXPECT_EQ(remainsLine(report), "") << "the failure line tells a lost volume";
@@ -136,6 +187,8 @@ TEST(RefusalLine, SendsAUserToTheAdministratorAndNotTheAdministrator) {
 TEST(ReportJson, HoldsTheFiguresOfTheRun) {
   const auto json = nlohmann::json::parse(reportJson(reportOf(RunOutcome::finished, 7)));
   EXPECT_EQ(json["outcome"], "finished");
+  EXPECT_EQ(json["grade"], "partial") << "of a run with faults";
+  EXPECT_EQ(json["message"], "");
   EXPECT_EQ(json["volume"], "stick");
   EXPECT_EQ(json["mountPath"], "/media/stick");
   EXPECT_EQ(json["method"], 3);
