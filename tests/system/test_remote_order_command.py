@@ -38,7 +38,9 @@ class OrderCommand(RemoteTest):
         code, output, errors = self.complete("order", target.name, "--method", "dod", "--wait")
         self.assertEqual((code, errors), (program.EXIT_FINISHED, ""), output)
         self.assertIn("Finished", output.splitlines()[-1])
-        self.assertEqual(self.order.tags.read(), {
+        tags = self.order.tags.read()
+        self.assertRegex(tags.pop("cvrResult"), "^complete free=")
+        self.assertEqual(tags, {
             "cvrOnline": "1", "cvrDrive": target.name, "cvrAlgo": "3", "cvrStatus": FINISHED, "CVRCANCEL": "",
             "cvrNamed": target.name, "cvrMountPath": target.path, "cvrVolumeUuid": target.uuid()})
         self.assertNothingLeft(target)

@@ -30,8 +30,9 @@ void OrderWatch::readTags() {
   result_ = tags_.value(kTagResult);  // behind the status, since it is stored before that
 }
 
-/// The tags have no status for a cancel.
+/// The status has no value for a cancel.
 bool OrderWatch::isCancelled() const {
+  if (const auto result = resultOfStatus(result_, status_)) return result->outcome == RunOutcome::cancelled;
   if (const auto code = program_.exitCode()) return *code == static_cast<int>(ExitCode::cancelled);
   return status_ == kStatusFailed && isCancelAsked_;
 }

@@ -233,6 +233,18 @@ TEST_F(OrderWatchTest, ReportsARunThatHasFollowedARequestAsCancelledWhereNoExitC
   EXPECT_THAT(result().line, StartsWith("Cancelled: "));
 }
 
+TEST_F(OrderWatchTest, TellsALostVolumeFromACancelByTheResultWhereNoExitCodeIsKnown) {
+  hasLeft_ = true;
+  tags_.put(kTagCancel, "later");
+  tags_.put(kTagResult, "failed free=5 covered=1");
+  tags_.put(kTagStatus, kStatusFailed);
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::failed);
+  tags_.put(kTagResult, "cancelled free=5 covered=1");
+  EXPECT_TRUE(look());
+  EXPECT_EQ(result().exitCode, ExitCode::cancelled);
+}
+
 TEST_F(OrderWatchTest, RemembersARequestThatIsTakenBackBeforeTheEnd) {
   tags_.put(kTagCancel, "1");
   EXPECT_FALSE(look());
