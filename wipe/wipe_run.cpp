@@ -90,7 +90,7 @@ void WipeRun::failBy(const Error& fault) {
 
 Error WipeRun::cause() const {
   const std::scoped_lock lock(mutex_);
-  return cause_;
+  return remains_.code == ErrorCode::readOnly ? remains_ : cause_;
 }
 
 RunAccount WipeRun::account() const {

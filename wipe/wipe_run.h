@@ -106,7 +106,8 @@ struct WipeRun {
 
   /// Notes a fault after which going on would do harm, and ends the run as failed: it stops as if it were told to.
   void failBy(const Error& fault);
-  /// What `failBy` was told; success where the run was not ended so. Any thread.
+  /// What `failBy` was told, or that the clean-up met a file system that has turned read-only: the flush that failed
+  /// just before knew of an error only. Success where the run was ended by neither. Any thread.
   [[nodiscard]] Error cause() const;
 
   /// Any thread.

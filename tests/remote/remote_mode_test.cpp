@@ -228,7 +228,7 @@ TEST_F(RemoteModeWithoutASize, IsCancelledWhileItIsListedAgain) {
   world.journal.clear();
   app.applicationDidFinishLaunching();
   EXPECT_EQ(world.journal.only({"mountedVolumes"}).size(), 1U) << "not listed once more after the cancel";
-  EXPECT_THAT(world.journal.only({"setTag"}), ElementsAre("setTag cvrStatus \"3\""));
+  EXPECT_THAT(world.journal.only({"setTag cvrStatus"}), ElementsAre("setTag cvrStatus \"3\""));
   EXPECT_EQ(world.loop.terminations(), 1);
   EXPECT_EQ(app.currentRun()->outcome, RunOutcome::cancelled);
   EXPECT_THAT(world.threads.names(), Not(Contains("calvero-wipe")));
@@ -319,7 +319,7 @@ TEST_F(RemoteMode, CancelledAgainWhileTheAbortIsReadEndsNoLater) {
     if (isRead && world.app().shell().cancelNumber < 3) world.systemNotifications.send("cancel wipe", "cancel");
   });
   world.systemNotifications.send("cancel wipe", "cancel");
-  EXPECT_THAT(world.journal.only({"sleep", "terminate", "setTag", "popUp"}),
+  EXPECT_THAT(world.journal.only({"sleep", "terminate", "setTag cvrStatus", "popUp"}),
               ElementsAre("popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"",
                           "setTag cvrStatus \"3\"", "sleep 3", "terminate"));
   EXPECT_EQ(app.shell().cancelNumber, 2);
@@ -333,7 +333,7 @@ TEST_F(RemoteMode, CancelledWhileTheMessageOfAFinishedRunIsReadReportsTheCancelA
   });
   world.runWorker();
   EXPECT_THAT(
-      world.journal.only({"popUp", "setTag", "bringToFront"}),
+      world.journal.only({"popUp", "setTag cvrStatus", "bringToFront"}),
       ElementsAre("popUp 0 1 0 1 \"Your admin successfuly completed\n Calvero on:DATA\"",
                   "popUp 1 0.466667 0.203922 1 \"Remote Wiping Process has been aborted.\"", "setTag cvrStatus \"3\""));
   EXPECT_EQ(world.loop.terminations(), 1);
@@ -345,7 +345,7 @@ TEST_F(RemoteMode, CancelledOnceItsSuccessIsToldLeavesThat) {
   world.launch();
   world.runWorker();
   world.systemNotifications.send("cancel wipe", "cancel");
-  EXPECT_THAT(world.journal.only({"setTag"}), ElementsAre("setTag cvrStatus \"2\""));
+  EXPECT_THAT(world.journal.only({"setTag cvrStatus"}), ElementsAre("setTag cvrStatus \"2\""));
   EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::finished);
 }
 
@@ -378,7 +378,7 @@ TEST_F(RemoteMode, CancelledByTheNotificationLeavesTheCancelTagAsItIs) {
   world.systemNotifications.send("cancel wipe", "cancel");
   EXPECT_EQ(world.tags.peek("CVRCANCEL"), "1");
   EXPECT_THAT(
-      world.journal.only({"setTag"}),
+      world.journal.only({"setTag cvrStatus"}),
       ElementsAre("setTag cvrResult \"cancelled free=0 covered=0 not-held=0 faults=0\"", "setTag cvrStatus \"3\""));
 }
 

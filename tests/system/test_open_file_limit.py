@@ -38,7 +38,8 @@ class OpenFileLimit(SystemTest):
         os.unlink(os.path.join(target.fillerDirectory(), ".temp0"))
         code, output, errors = self.finish(process)
         report = json.loads(output)
-        self.assertEqual((code, report["grade"], report["notHeld"]), (program.EXIT_FAILED, "partial", 128_000_000))
+        self.assertEqual((code, report["grade"]), (program.EXIT_FAILED, "partial"))
+        self.assertAlmostEqual(report["notHeld"], 128_000_000, delta=100_000)  # with the blocks that list its blocks
         self.assertIn("128.00 MB were not held until the end of the run", errors)
         self.assertNothingLeft(target)
 

@@ -218,6 +218,16 @@ TEST_F(Coverage, NotesNoFaultOfAFlushThatFailsUnderACancel) {
   EXPECT_EQ(run->faults(), 0U);
 }
 
+TEST_F(Coverage, TellsOfAFileSystemThatTurnedReadOnlyUnderAFlushThatOnlyKnewOfAnError) {
+  start(300'000'000);
+  world.files.script.failAt(FileCall::fsync, 3, ErrorCode::gone);
+  world.files.script.failFrom(FileCall::removeDirectory, 1, ErrorCode::readOnly);
+  world.runWorker();
+  EXPECT_EQ(run->outcome, RunOutcome::failed);
+  EXPECT_EQ(run->firstFault().code, ErrorCode::gone);
+  EXPECT_EQ(run->cause().code, ErrorCode::readOnly);
+}
+
 TEST_F(Coverage, ReportsNoSuccessOfARemoteRunWhoseLastFlushFails) {
   world.volume("DATA", 1'000'000);
   world.order("DATA", "1");
@@ -299,8 +309,12 @@ TEST_F(Coverage, TakesUpTheSpaceThatAnotherProgramFreesDuringTheRun) {
 }
 
 TEST_F(Coverage, EndsOnAVolumeThatTakesNoSpaceForWhatIsWritten) {
-  world.files.setHandleLimit(0);  // each file's space is free again once it is written
   start(300'000'000);
+  for (int file = 1; file <= 8; ++file) {  // each one's space is free again once it is written
+    world.files.script.before(FileCall::removeItem, file, [this] {
+      for (std::size_t block = 0; block < disk().blockCount(); ++block) disk().release(block);
+    });
+  }
   world.runWorker();
   EXPECT_EQ(run->outcome, RunOutcome::finished);
   EXPECT_GE(run->counters.bytesCovered, 600'000'000U) << "as much as the volume holds";
