@@ -12,7 +12,7 @@
 #include "bench/paired.h"
 #include "bench/quiet_ports.h"
 #include "methods/method_catalogue.h"
-#include "platform/linux/posix_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "ports/files.h"
 #include "wipe/block_plan.h"
 #include "wipe/filler_names.h"
@@ -68,7 +68,7 @@ int main(int argc, char** argv) {
   const std::string volume = argv[1];
   const bool threePasses = std::atoi(argv[2]) == 3;
   bench::QuietPorts ports(bench::benchVolume(volume, kBytes));
-  PosixFiles files;
+  LinuxFiles files;
   AppDelegate app(ports.with(files));
   app.createBuffersForErasing();
   app.chooseMethod(threePasses ? 2 : 0);

@@ -12,8 +12,8 @@
 #include "app/app_delegate.h"
 #include "bench/paired.h"
 #include "bench/quiet_ports.h"
-#include "platform/linux/posix_files.h"
-#include "platform/linux/process_limits.h"
+#include "platform/linux/files/linux_files.h"
+#include "platform/linux/process/process_limits.h"
 #include "ports/files.h"
 #include "wipe/filler_names.h"
 #include "wipe/filler_size.h"
@@ -92,7 +92,7 @@ class Sets {
   std::uint64_t count_;
   std::array<std::uint8_t, 512> data_{};
   bench::QuietPorts ports_;
-  PosixFiles files_;
+  LinuxFiles files_;
   AppDelegate app_;
   double layoutSeconds_ = 0;
 };

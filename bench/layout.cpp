@@ -13,7 +13,7 @@
 #include "app/app_delegate.h"
 #include "bench/paired.h"
 #include "bench/quiet_ports.h"
-#include "platform/linux/posix_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "ports/files.h"
 #include "wipe/filler_size.h"
 
@@ -30,7 +30,7 @@ long residentBytes() {
 
 struct Layout {
   bench::QuietPorts ports;
-  PosixFiles files;
+  LinuxFiles files;
   AppDelegate app;
 
   explicit Layout(const MountedVolume& volume) : ports(volume), app(ports.with(files)) {}

@@ -1,4 +1,4 @@
-#include "platform/linux/mount_table.h"
+#include "platform/linux/volumes/mount_table.h"
 
 #include <set>
 #include <system_error>

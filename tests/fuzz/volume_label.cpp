@@ -1,4 +1,4 @@
-#include "platform/linux/volume_label.h"
+#include "platform/linux/volumes/volume_label.h"
 
 #include <iconv.h>
 
@@ -6,7 +6,7 @@
 #include <set>
 #include <vector>
 
-#include "platform/linux/volume_names.h"
+#include "platform/linux/volumes/volume_names.h"
 #include "tests/fuzz/fuzzing.h"
 
 namespace calvero::fuzzing {

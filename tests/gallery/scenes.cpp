@@ -2,7 +2,7 @@
 
 #include <QProgressBar>
 
-#include "platform/qt/completed_window.h"
+#include "window/completed_window.h"
 #include "wipe/filler_names.h"
 #include "wipe/filler_size.h"
 

@@ -8,9 +8,9 @@
 #include <stdexcept>
 #include <thread>
 
-#include "platform/qt/item_view.h"
-#include "platform/qt/tile_grid.h"
-#include "platform/qt/volume_page.h"
+#include "window/item_view.h"
+#include "window/tile_grid.h"
+#include "window/volume_page.h"
 
 namespace calvero::testing {
 namespace {

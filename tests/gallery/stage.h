@@ -12,9 +12,6 @@
 #include <utility>
 
 #include "app/app_delegate.h"
-#include "platform/qt/translations.h"
-#include "platform/qt/wizard/wizard_ports.h"
-#include "platform/qt/wizard/wizard_session.h"
 #include "ports/alerts.h"
 #include "ports/clock.h"
 #include "tests/fakes/fake_files.h"
@@ -22,6 +19,9 @@
 #include "tests/fakes/fake_volumes.h"
 #include "tests/fakes/journal.h"
 #include "tests/fakes/small_fakes.h"
+#include "window/translations.h"
+#include "window/wizard/wizard_ports.h"
+#include "window/wizard/wizard_session.h"
 
 class QDialog;
 

@@ -8,10 +8,10 @@
 #include <QStyleOptionButton>
 #include <QTextOption>
 
-#include "platform/qt/elided_label.h"
-#include "platform/qt/label_button.h"
-#include "platform/qt/selection_button.h"
-#include "platform/qt/wrapped_label.h"
+#include "window/elided_label.h"
+#include "window/label_button.h"
+#include "window/selection_button.h"
+#include "window/wrapped_label.h"
 
 namespace calvero::testing {
 namespace {

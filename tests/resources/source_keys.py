@@ -2,7 +2,7 @@
 
 import re
 
-FOLDERS = ("app", "methods", "volumes", "wipe", "remote", "platform/qt")
+FOLDERS = ("app", "methods", "volumes", "wipe", "remote", "window")
 # The look-ups themselves and the one function of the core that hands its key on to them.
 LOOKUPS = frozenset({"localised", "localise", "textFor", "setPhase"})
 CATALOGUE = "methods/method_catalogue.cpp"

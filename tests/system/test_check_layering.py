@@ -32,29 +32,41 @@ class CheckLayering(unittest.TestCase):
                 self.assertForbidden(wipe__writer=f"#include {header}")
 
     def testTheCoreMayNotIncludeThePlatform(self):
-        self.assertForbidden(app__controller='#include "platform/linux/posix_files.h"')
+        self.assertForbidden(app__controller='#include "platform/linux/files/linux_files.h"')
 
     def testPortsMayNotIncludeTheCore(self):
         self.assertForbidden(ports__files='#include "wipe/wipe_run.h"')
 
     def testTheLinuxAdaptersMayNotIncludeTheCore(self):
-        self.assertForbidden(platform__linux__files='#include "app/app_delegate.h"')
+        self.assertForbidden(platform__linux__files__claim='#include "app/app_delegate.h"')
 
     def testTheAdaptersOfOneKindMayNotIncludeAnother(self):
-        self.assertForbidden(platform__dbus__listener='#include "platform/linux/descriptor.h"')
-        self.assertForbidden(platform__threads__signals='#include "platform/linux/descriptor.h"')
+        self.assertForbidden(platform__dbus__listener='#include "platform/linux/system/descriptor.h"')
+        self.assertForbidden(platform__threads__signals='#include "platform/linux/system/descriptor.h"')
 
     def testTheTerminalAdaptersMayNotIncludeTheCore(self):
-        self.assertForbidden(platform__terminal__alerts='#include "app/app_delegate.h"')
+        self.assertForbidden(terminal__alerts='#include "app/app_delegate.h"')
+
+    def testNoFaceMayIncludeTheOther(self):
+        self.assertForbidden(terminal__main='#include "window/main_window.h"')
+        self.assertForbidden(window__main='#include "terminal/output.h"')
+
+    def testTheFoldersOfTheSystemsAdaptersIncludeInOneDirectionOnly(self):
+        self.assertForbidden(platform__linux__volumes__label='#include "platform/linux/files/open_folder.h"')
+        self.assertForbidden(platform__linux__system__descriptor='#include "platform/linux/volumes/mount_table.h"')
+        self.assertAllowed(platform__linux__files__claim='#include "platform/linux/volumes/mount_table.h"')
+
+    def testTheAdaptersMayNotIncludeAFace(self):
+        self.assertForbidden(platform__suite__store='#include "terminal/output.h"')
 
     def testTheInwardArrowsAreAllowed(self):
         self.assertAllowed(wipe__writer="#include <cstdint>")
         self.assertAllowed(wipe__writer='#include "ports/files.h"')
-        self.assertAllowed(platform__linux__files="#include <unistd.h>")
-        self.assertAllowed(platform__linux__files='#include "ports/files.h"')
-        self.assertAllowed(platform__linux__files='#include "platform/threads/stop_signals_blocked.h"')
-        self.assertAllowed(platform__terminal__main='#include "app/app_delegate.h"')
-        self.assertAllowed(platform__terminal__wipe_command='#include "app/app_delegate.h"')
+        self.assertAllowed(platform__linux__files__claim="#include <unistd.h>")
+        self.assertAllowed(platform__linux__files__claim='#include "ports/files.h"')
+        self.assertAllowed(platform__linux__files__claim='#include "platform/threads/stop_signals_blocked.h"')
+        self.assertAllowed(terminal__main='#include "app/app_delegate.h"')
+        self.assertAllowed(terminal__wipe_command='#include "app/app_delegate.h"')
 
     def testThisTreeKeepsToTheLayers(self):
         ended = subprocess.run([CHECK, ROOT], capture_output=True, text=True)

@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "platform/dbus/session_notifications.h"
-#include "platform/terminal/asio_event_loop.h"
 #include "ports/system_log.h"
+#include "terminal/asio_event_loop.h"
 #include "tests/platform/dbus/bus_daemon.h"
 #include "tests/platform/suite/environment_variable.h"
 
