@@ -304,8 +304,8 @@
         <translation>فُصل محرك الأقراص %1 أو تعطّل. قد تظل البيانات المحذوفة قابلة للقراءة عليه.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>وحدة التخزين التي يعتمد عليها محرك الأقراص %1 ممتلئة أو معطلة. قد تظل البيانات المحذوفة قابلة للقراءة على محرك الأقراص.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>وحدة التخزين التي يعتمد عليها محرك الأقراص %1 ممتلئة أو معطلة. أفسح مساحة هناك قبل إزالة محرك الأقراص. قد تظل البيانات المحذوفة قابلة للقراءة على محرك الأقراص.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

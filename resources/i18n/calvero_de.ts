@@ -304,8 +304,8 @@ auf: %@</translation>
         <translation>Das Laufwerk %1 wurde entfernt oder ist ausgefallen. Zuvor gelöschte Daten sind darauf möglicherweise noch lesbar.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>Der Speicher hinter dem Laufwerk %1 ist voll oder fällt aus. Zuvor gelöschte Daten sind auf dem Laufwerk möglicherweise noch lesbar.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>Der Speicher hinter dem Laufwerk %1 ist voll oder fällt aus. Schaffen Sie dort Platz, bevor Sie das Laufwerk entfernen. Zuvor gelöschte Daten sind auf dem Laufwerk möglicherweise noch lesbar.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@
         <translation>The drive %1 was removed or has failed. Deleted data may still be readable on it.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@ en: %@</translation>
         <translation>La unidad %1 se ha retirado o ha fallado. Es posible que en ella aún se puedan leer datos eliminados.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>El almacenamiento que hay detrás de la unidad %1 está lleno o falla. Es posible que en la unidad aún se puedan leer datos eliminados.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>El almacenamiento que hay detrás de la unidad %1 está lleno o falla. Libere espacio en él antes de extraer la unidad. Es posible que en la unidad aún se puedan leer datos eliminados.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@ sur : %@</translation>
         <translation>Le lecteur %1 a été retiré ou est tombé en panne. Des données supprimées peuvent encore y être lisibles.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>Le support sur lequel repose le lecteur %1 est plein ou défaillant. Des données supprimées peuvent encore être lisibles sur le lecteur.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>Le support sur lequel repose le lecteur %1 est plein ou défaillant. Libérez-y de la place avant de retirer le lecteur. Des données supprimées peuvent encore être lisibles sur le lecteur.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@ su: %@</translation>
         <translation>L’unità %1 è stata rimossa o si è guastata. I dati eliminati potrebbero essere ancora leggibili sull’unità.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>L’archiviazione su cui si basa l’unità %1 è piena o guasta. I dati eliminati potrebbero essere ancora leggibili sull’unità.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>L’archiviazione su cui si basa l’unità %1 è piena o guasta. Liberare spazio lì prima di rimuovere l’unità. I dati eliminati potrebbero essere ancora leggibili sull’unità.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

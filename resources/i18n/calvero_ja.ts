@@ -304,8 +304,8 @@
         <translation>ドライブ %1 が取り外されたか、故障しました。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>ドライブ %1 の基盤となるストレージに空きがないか、ストレージが故障しています。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>ドライブ %1 の基盤となるストレージに空きがないか、ストレージが故障しています。ドライブを取り外す前に、そこに空きを作ってください。削除済みのデータが読み取れる状態で残っている可能性があります。</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@
         <translation>드라이브 %1이(가) 제거되었거나 고장 났습니다. 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>드라이브 %1의 기반 저장소가 가득 찼거나 고장 났습니다. 드라이브에서 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>드라이브 %1의 기반 저장소가 가득 찼거나 고장 났습니다. 드라이브를 제거하기 전에 그곳에 공간을 확보하십시오. 드라이브에서 삭제된 데이터를 아직 읽을 수 있을지도 모릅니다.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@ op: %@</translation>
         <translation>De schijf %1 is losgekoppeld of defect geraakt. Verwijderde gegevens zijn daarop mogelijk nog leesbaar.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>De opslag achter de schijf %1 is vol of defect. Verwijderde gegevens zijn mogelijk nog leesbaar op de schijf.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>De opslag achter de schijf %1 is vol of defect. Maak daar ruimte voordat u de schijf verwijdert. Verwijderde gegevens zijn mogelijk nog leesbaar op de schijf.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

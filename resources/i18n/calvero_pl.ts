@@ -304,8 +304,8 @@ na dysku: %@</translation>
         <translation>Dysk %1 został odłączony lub uległ awarii. Usunięte dane mogą być na nim nadal możliwe do odczytania.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>Pamięć masowa, na której znajduje się dysk %1, jest pełna lub uszkodzona. Usunięte dane mogą być na dysku nadal możliwe do odczytania.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>Pamięć masowa, na której znajduje się dysk %1, jest pełna lub uszkodzona. Zwolnij na niej miejsce, zanim usuniesz dysk. Usunięte dane mogą być na dysku nadal możliwe do odczytania.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

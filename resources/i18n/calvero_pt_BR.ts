@@ -304,8 +304,8 @@ em: %@</translation>
         <translation>A unidade %1 foi removida ou falhou. Talvez ainda seja possível ler dados excluídos nela.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>O armazenamento por trás da unidade %1 está cheio ou falhando. Os dados excluídos ainda podem ser lidos na unidade.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>O armazenamento por trás da unidade %1 está cheio ou falhando. Libere espaço nele antes de remover a unidade. Os dados excluídos ainda podem ser lidos na unidade.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@ på: %@</translation>
         <translation>Enheten %1 har kopplats från eller slutat fungera. Borttagna data kan fortfarande vara läsbara på den.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>Lagringen bakom enheten %1 är full eller håller på att gå sönder. Borttagna data kan fortfarande vara läsbara på enheten.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>Lagringen bakom enheten %1 är full eller håller på att gå sönder. Frigör utrymme där innan du tar bort enheten. Borttagna data kan fortfarande vara läsbara på enheten.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@ Sürücü: %@</translation>
         <translation>%1 sürücüsü çıkarıldı veya arızalandı. Daha önce silinmiş veriler sürücüde hâlâ okunabilir olabilir.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>%1 sürücüsünün altındaki depolama dolu veya arızalı. Silinen veriler sürücüde hâlâ okunabilir olabilir.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>%1 sürücüsünün altındaki depolama dolu veya arızalı. Sürücüyü çıkarmadan önce orada yer açın. Silinen veriler sürücüde hâlâ okunabilir olabilir.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -304,8 +304,8 @@
         <translation>Диск %1 від’єднано або він вийшов з ладу. Можливо, видалені дані на ньому все ще можна прочитати.</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>Сховище, на якому розміщено диск %1, заповнене або виходить з ладу. Можливо, видалені дані на диску все ще можна прочитати.</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>Сховище, на якому розміщено диск %1, заповнене або виходить з ладу. Звільніть там місце, перш ніж від’єднати диск. Можливо, видалені дані на диску все ще можна прочитати.</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

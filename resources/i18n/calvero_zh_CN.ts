@@ -304,8 +304,8 @@
         <translation>驱动器 %1 已被移除或发生故障。其中已删除的数据可能仍可读取。</translation>
     </message>
     <message>
-        <source>The storage behind the drive %1 is full or failing. Deleted data may still be readable on the drive.</source>
-        <translation>驱动器 %1 背后的存储已满或出现故障。其中已删除的数据可能仍可读取。</translation>
+        <source>The storage behind the drive %1 is full or failing. Make room there before the drive is removed. Deleted data may still be readable on the drive.</source>
+        <translation>驱动器 %1 背后的存储已满或出现故障。移除驱动器之前，请在那里腾出空间。其中已删除的数据可能仍可读取。</translation>
     </message>
     <message>
         <source>There is no drive to erase.</source>

@@ -28,7 +28,8 @@ std::string causeText(ErrorCode cause, const std::string& volume) {
   switch (cause) {
     case ErrorCode::storageFull:
       return "the storage under " + volume +
-             " is full: it dropped what the volume had taken already, and more would damage the file system";
+             " is full: it dropped what the volume had taken already, and more would damage the file system; make room "
+             "there before the volume is unmounted";
     case ErrorCode::overQuota:
       return "the quota on " + volume + " is used up, and what had been taken already was dropped";
     case ErrorCode::gone:

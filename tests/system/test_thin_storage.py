@@ -3,12 +3,16 @@
 import json
 import os
 import signal
+import subprocess
 
 from case import everything
 from pulled_case import PulledTest
 from remote_case import RemoteTest
 from testkit import program, trace
 from testkit.volume import MEBIBYTE, Volume
+
+SLOWEST = "9"
+
 
 class ThinStorage(RemoteTest):
     def makeStacked(self, mebibytes, freeBelow, fallocate=False):
@@ -19,6 +23,7 @@ class ThinStorage(RemoteTest):
             with open(path, "wb") as image:
                 os.posix_fallocate(image.fileno(), 0, mebibytes * MEBIBYTE)
         made = Volume("ext4", mebibytes * MEBIBYTE, imagePath=path)
+        made.imagePath = path
         self.addCleanup(made.close)
         os.chmod(made.path, 0o1777)
         with open(os.path.join(below.path, "others"), "wb") as others:
@@ -48,6 +53,39 @@ class ThinStorage(RemoteTest):
                 target = self.makeStacked(**options)
                 self.wipe(target)
                 self.assertNothingLeft(target)
+
+
+    def testStorageThatIsFilledByOthersDuringTheRunEndsItAtOnceAndSparesTheFileSystem(self):
+        target = self.makeStacked(mebibytes=40, freeBelow=45)
+        below = os.path.dirname(target.imagePath)
+        started = self.startCommand([program.programPath(), "wipe", target.path, "--yes", "--json", "--method", SLOWEST])
+        program.waitUntil(lambda: isWriting(target), "the first filler file being written")
+        fillUp(os.path.join(below, "more of others"))
+        code, output, errors = self.finish(started)
+        report = json.loads(output)
+        self.assertEqual((code, report["outcome"]), (program.EXIT_FAILED, "failed"), errors)
+        self.assertIn("is full", errors)
+        self.assertIn("make room there before the volume is unmounted", errors)
+        os.remove(os.path.join(below, "more of others"))
+        target.unmount()
+        checked = subprocess.run(["e2fsck", "-fn", target.imagePath], capture_output=True, text=True)
+        self.assertEqual(checked.returncode, 0, checked.stdout)
+
+
+def isWriting(target):
+    try:
+        return os.stat(os.path.join(target.fillerDirectory(), ".temp0")).st_size > MEBIBYTE // 2
+    except FileNotFoundError:
+        return False
+
+
+def fillUp(path):
+    with open(path, "wb", buffering=0) as file:
+        try:
+            while True:
+                file.write(bytes(MEBIBYTE))
+        except OSError:
+            os.fsync(file.fileno())
 
 
 class GoneVolume(PulledTest):

@@ -90,7 +90,8 @@ TEST(FailedRun, SaysWhatAFailedFlushMeans) {
   };
   EXPECT_EQ(lineFor(ErrorCode::storageFull),
             "Failed: the storage under stick (/media/stick) is full: it dropped what the volume had taken already, and "
-            "more would damage the file system; deleted data may remain readable there");
+            "more would damage the file system; make room there before the volume is unmounted; deleted data may "
+            "remain readable there");
   EXPECT_THAT(lineFor(ErrorCode::overQuota), HasSubstr("the quota on stick (/media/stick) is used up"));
   EXPECT_THAT(lineFor(ErrorCode::gone), HasSubstr("the medium of stick (/media/stick) fails"));
   EXPECT_TRUE(nlohmann::json::parse(reportJson(reportOf(RunOutcome::failed, 2)))["grade"].is_null());

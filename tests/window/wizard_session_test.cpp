@@ -262,7 +262,7 @@ TEST_F(WindowSession, TellsThatTheStorageBehindADriveIsFullAsALostDrive) {
     files.script.failAt(FileCall::fsync, 2, ErrorCode::full);
     startRun();
     ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
-    EXPECT_THAT(outcome(), HasSubstr("The storage behind the drive DATA is full or failing."));
+    EXPECT_THAT(outcome(), HasSubstr("The storage behind the drive DATA is full or failing. Make room there"));
     EXPECT_TRUE(isWarned());
     ASSERT_TRUE(comesTrue([this] { return page() == 0; }));
     EXPECT_EQ(app->shell().wipingProcessOn, 0);

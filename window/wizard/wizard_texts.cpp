@@ -30,8 +30,8 @@ std::string failureText(const Localisation& texts, const WipeRun& run) {
   const std::string text =
       isUnderneath
           ? texts.localised(
-                "The storage behind the drive %1 is full or failing. Deleted data may still be "
-                "readable on the drive.")
+                "The storage behind the drive %1 is full or failing. Make room there before the drive is removed. "
+                "Deleted data may still be readable on the drive.")
           : texts.localised("The drive %1 was removed or has failed. Deleted data may still be readable on it.");
   return filledIn(text, {run.volume.name()});
 }
