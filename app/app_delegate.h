@@ -221,7 +221,7 @@ class AppDelegate {
   /// Puts a fresh run with the same flags in the current one's place, and tells the old one to stop.
   void replaceRun();
   /// From now on no earlier run may touch the screen or end the application.
-  void outliveEarlierRuns();
+  void supersedeEarlierRuns();
   void startRunThreads();
   void startDataThread();
   void runWorker(WipeRun& run);

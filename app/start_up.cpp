@@ -93,8 +93,8 @@ void AppDelegate::reportUnknownError(WipeRun& run) {
 
 void AppDelegate::endApplication(WipeRun& run) {
   run.applicationEnding = 1;
-  // A run that a newer one has outlived must not end the program under it.
-  if (run.screen.standing() == RunStanding::outlived) return;
+  // A run that a newer one has superseded must not end the program under it.
+  if (run.screen.standing() == RunStanding::superseded) return;
   // A program that ended under a cancel would take its removal of the filler files along, half done.
   CancelWait wait = CancelWait::waiting;
   const bool isLeftToTheCancel = cancelWait_.compare_exchange_strong(wait, CancelWait::endsTheApplication);

@@ -13,9 +13,6 @@
 namespace calvero {
 namespace {
 
-/// Longer than any reader that is at work is silent; after it, an ending program has waited long enough.
-constexpr std::chrono::seconds kPatience{10};
-
 std::array<std::atomic<int>, STDERR_FILENO + 1> firstFailures{};
 
 int failureOf(int descriptor) {
@@ -33,8 +30,8 @@ void noteFailure(int descriptor, int failure) {
 
 void Output::write(std::string_view text) const {
   if (descriptor_ < 0) return;
-  const auto patience = failureOf(descriptor_) == kNobodyReads ? std::chrono::seconds::zero() : kPatience;
-  noteFailure(descriptor_, writeAll(descriptor_, text, patience));
+  const auto timeout = failureOf(descriptor_) == kNobodyReads ? std::chrono::seconds::zero() : kReaderTimeout;
+  noteFailure(descriptor_, writeAll(descriptor_, text, timeout));
 }
 
 void Output::line(std::string_view text) const {

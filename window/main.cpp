@@ -42,8 +42,7 @@ void printError(const std::string& text) {
 }
 
 int print(const std::string& text) {
-  constexpr std::chrono::seconds kPatience{10};
-  const int failure = writeAll(STDOUT_FILENO, text, kPatience);
+  const int failure = writeAll(STDOUT_FILENO, text, kReaderTimeout);
   if (failure == 0) return 0;
   printError("The output could not be written: " +
              (failure == kNobodyReads ? "nobody reads it" : std::generic_category().message(failure)));

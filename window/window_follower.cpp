@@ -45,11 +45,11 @@ void WindowFollower::place() {
 
 // Later than the event that moved the window; not for ever against a display system that places windows itself.
 void WindowFollower::returnSoon() {
-  constexpr int kMostVainReturns = 8;
+  constexpr int kMostReturnsWithoutEffect = 8;
   const QPoint wanted = frameOf(*parent_).bottomLeft() + offset_;
   if (frameOf(*child_).bottomLeft() == wanted) {
-    vainReturns_ = 0;
-  } else if (++vainReturns_ <= kMostVainReturns) {
+    returnsWithoutEffect_ = 0;
+  } else if (++returnsWithoutEffect_ <= kMostReturnsWithoutEffect) {
     QTimer::singleShot(0, this, [this] { place(); });
   }
 }
@@ -58,7 +58,7 @@ bool WindowFollower::eventFilter(QObject* watched, QEvent* event) {
   const bool moved = event->type() == QEvent::Move || event->type() == QEvent::Resize;
   if (!moved || child_ == nullptr || parent_ == nullptr) return false;
   if (watched == parent_) {
-    vainReturns_ = 0;
+    returnsWithoutEffect_ = 0;
     place();
   } else if (pinned_) {
     returnSoon();

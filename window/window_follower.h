@@ -34,7 +34,7 @@ class WindowFollower : public QObject {
   QPointer<QWidget> parent_;
   QPoint offset_;  // between the frames' lower left corners
   bool pinned_ = false;
-  int vainReturns_ = 0;
+  int returnsWithoutEffect_ = 0;
 };
 
 }  // namespace calvero

@@ -17,11 +17,11 @@ namespace {
 constexpr Colour kOrange{1.0, 119.0 / 255.0, 52.0 / 255.0, 1.0};
 constexpr std::chrono::seconds kTimeToReadOfTheAbort{3};
 
-/// A cancel waits for as long as it sees the clean-up get on; so many looks in vain end it. A medium that hangs may
-/// never answer, and must not hold up the window. One vain look is not enough: a process that was halted finds its time
-/// over.
-constexpr int kMostVainLooks = 2;
-constexpr std::chrono::seconds kTimeOfALook{4};
+/// A cancel waits for as long as the clean-up makes progress; so many intervals without any end the wait. A medium that
+/// hangs may never answer, and must not hold up the window. One interval is not enough: a process that was halted finds
+/// it over when it goes on.
+constexpr int kMostIntervalsWithoutProgress = 2;
+constexpr std::chrono::seconds kProgressInterval{4};
 
 }  // namespace
 
@@ -72,11 +72,11 @@ void AppDelegate::removeFilesAside(const RunPtr& run) {
 void AppDelegate::waitForRemoval(const std::atomic<bool>& removed, const std::shared_ptr<FillerDirectory>& directory) {
   const auto cleanUpSteps = [&] { return directory ? directory->cleanUpSteps() : 0; };
   bool isRemoved = false;
-  int vainLooks = 0;
-  while (!isRemoved && vainLooks < kMostVainLooks && !ports_.eventLoop.isEnding()) {
+  int intervalsWithoutProgress = 0;
+  while (!isRemoved && intervalsWithoutProgress < kMostIntervalsWithoutProgress && !ports_.eventLoop.isEnding()) {
     const std::uint64_t steps = cleanUpSteps();
-    isRemoved = ports_.eventLoop.serveUntil([&removed] { return removed.load(); }, kTimeOfALook);
-    vainLooks = cleanUpSteps() == steps ? vainLooks + 1 : 0;
+    isRemoved = ports_.eventLoop.serveUntil([&removed] { return removed.load(); }, kProgressInterval);
+    intervalsWithoutProgress = cleanUpSteps() == steps ? intervalsWithoutProgress + 1 : 0;
   }
   if (!isRemoved && !ports_.eventLoop.isEnding()) {
     // The program may have to end before: what hangs in the kernel then dies when it comes back, its work undone.

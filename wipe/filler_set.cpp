@@ -11,7 +11,7 @@
 namespace calvero {
 namespace {
 
-/// A volume that claims absurd space would be asked for millions of files more, in vain.
+/// A volume that claims absurd space would be asked for millions of files more that it cannot give.
 constexpr int kMostFailuresInARow = 16;
 
 }  // namespace

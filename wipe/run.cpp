@@ -46,7 +46,7 @@ void AppDelegate::proceed() {
   setIBObjectsBeforeWipe();
 
   replaceRun();
-  outliveEarlierRuns();
+  supersedeEarlierRuns();
   run_->volume = selection();
   run_->abortErasing = 0;
   shell_.wipingProcessOn = 1;
@@ -90,9 +90,9 @@ void AppDelegate::replaceRun() {
   run_ = std::move(fresh);
 }
 
-void AppDelegate::outliveEarlierRuns() {
+void AppDelegate::supersedeEarlierRuns() {
   for (const auto& earlier : earlierRuns_) {
-    if (const RunPtr run = earlier.lock()) run->screen.setStanding(RunStanding::outlived);
+    if (const RunPtr run = earlier.lock()) run->screen.setStanding(RunStanding::superseded);
   }
 }
 

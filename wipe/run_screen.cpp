@@ -27,7 +27,7 @@ void RunScreen::apply(std::function<void(Controls&)> change) const {
 
 AlertAnswer RunScreen::runModal(const Alert& alert) const {
   const auto show = [standing = standing_, alerts = alerts_, alert] {
-    return *standing == RunStanding::outlived ? AlertAnswer::defaultButton : alerts->runModal(alert);
+    return *standing == RunStanding::superseded ? AlertAnswer::defaultButton : alerts->runModal(alert);
   };
   if (eventLoop_->isEventLoopThread()) return show();
 

@@ -14,9 +14,9 @@ class EventLoop;
 
 /// Whose run it is. A run only ever moves down this list.
 enum class RunStanding : std::uint8_t {
-  current,   ///< the controller's run
-  replaced,  ///< the controller has taken up a fresh, idle run: this one no longer touches the screen
-  outlived,  ///< a newer run has started: this one ends without a word
+  current,     ///< the controller's run
+  replaced,    ///< the controller has taken up a fresh, idle run: this one no longer touches the screen
+  superseded,  ///< a newer run has started: this one ends without a word
 };
 
 /// The screen as the threads of one run may use it: every change is carried out on the event loop thread, in the order

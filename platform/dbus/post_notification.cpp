@@ -48,7 +48,7 @@ std::thread startSender(Notification notification, std::promise<void> outcome) {
 }
 
 /// On a thread of its own, since the library cannot be interrupted while it waits for the bus. Throws what went wrong.
-void sendPatiently(Notification notification) {
+void sendWithTimeout(Notification notification) {
   std::promise<void> promise;
   auto outcome = promise.get_future();
   std::thread sender = startSender(std::move(notification), std::move(promise));
@@ -66,7 +66,7 @@ bool postNotification(const std::string& name, const std::string& object, System
   try {
     // The bus would take the text up to it for the whole.
     if ((name + object).find('\0') != std::string::npos) throw std::invalid_argument("a text holds a NUL");
-    sendPatiently({.name = name, .object = object});
+    sendWithTimeout({.name = name, .object = object});
     return true;
   } catch (const std::exception& failure) {
     log.line("the notification \"" + name + "\" is not sent: " + failure.what());

@@ -6,12 +6,12 @@ namespace {
 
 constexpr const char* kPending = "1";
 /// A command that looks at the order or changes it holds the claim for a moment.
-constexpr std::chrono::seconds kPatience{1};
+constexpr std::chrono::seconds kClaimTimeout{1};
 
 }  // namespace
 
 bool ClaimedTags::isOursToCarryOut() {
-  const OrderClaim::Holder holder = claim_.take(kPatience);
+  const OrderClaim::Holder holder = claim_.take(kClaimTimeout);
   if (holder == OrderClaim::Holder::another) log_.line("the order is under way in another process; this one ends");
   if (holder == OrderClaim::Holder::nobody) log_.line("the order cannot be claimed: a second start would not see it");
   carriesOut_ = holder != OrderClaim::Holder::another;
@@ -31,7 +31,7 @@ std::optional<std::string> ClaimedTags::value(const std::string& tag) {
 std::optional<std::string> ClaimedTags::pendingOrder() {
   auto online = store_.value(onlineTag_);
   if (online == kPending) {
-    if (claim_.take(kPatience) != OrderClaim::Holder::us) {
+    if (claim_.take(kClaimTimeout) != OrderClaim::Holder::us) {
       log_.line("an order is pending that is another process's; this one leaves it alone");
       return std::nullopt;
     }

@@ -57,8 +57,8 @@ bool isSameFile(int descriptor, const std::string& path) {
          open.st_ino == named.st_ino;
 }
 
-OrderClaim::Holder lock(int descriptor, std::chrono::milliseconds patience) {
-  const auto end = std::chrono::steady_clock::now() + patience;
+OrderClaim::Holder lock(int descriptor, std::chrono::milliseconds timeout) {
+  const auto end = std::chrono::steady_clock::now() + timeout;
   while (true) {
     struct flock exclusive = wholeFile(F_WRLCK);
     if (::fcntl(descriptor, F_OFD_SETLK, &exclusive) == 0) return OrderClaim::Holder::us;
@@ -92,12 +92,12 @@ void OrderClaim::inherit() {
   if (lock(inherited, {}) == Holder::us) descriptor_ = inherited;
 }
 
-OrderClaim::Holder OrderClaim::take(std::chrono::milliseconds patience) {
+OrderClaim::Holder OrderClaim::take(std::chrono::milliseconds timeout) {
   if (descriptor_ >= 0) return Holder::us;
   if (tagStorePath_.empty()) return Holder::nobody;
   const int descriptor = openOrMakeClaim(path());
   if (descriptor < 0) return Holder::nobody;
-  const Holder holder = lock(descriptor, patience);
+  const Holder holder = lock(descriptor, timeout);
   if (holder == Holder::us) {
     descriptor_ = descriptor;
   } else {

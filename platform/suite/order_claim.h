@@ -25,9 +25,9 @@ class OrderClaim {
   /// process inherits it. Before there are other threads.
   void inherit();
 
-  /// Takes the claim, and waits for another process that holds it for `patience` at most. Makes the file where there is
+  /// Takes the claim, and waits for another process that holds it for `timeout` at most. Makes the file where there is
   /// none. `nobody` when that is not possible: nothing keeps others out then. Once taken, it stays ours.
-  Holder take(std::chrono::milliseconds patience);
+  Holder take(std::chrono::milliseconds timeout);
 
   /// Whether another process holds it now. Makes nothing, and is in nobody's way.
   [[nodiscard]] bool isHeldByAnother() const;

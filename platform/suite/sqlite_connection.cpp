@@ -113,10 +113,10 @@ std::string uriOf(const std::string& path) {
   return uri;
 }
 
-SQLite::Database opened(const std::string& path, Access access, int patienceMs) {
-  if (access == Access::readWrite) return {path, SQLite::OPEN_READWRITE, patienceMs};
-  if (access == Access::readOnly) return {path, SQLite::OPEN_READONLY, patienceMs};
-  return {uriOf(path) + "?immutable=1", SQLite::OPEN_READONLY | SQLite::OPEN_URI, patienceMs};
+SQLite::Database opened(const std::string& path, Access access, int timeoutMs) {
+  if (access == Access::readWrite) return {path, SQLite::OPEN_READWRITE, timeoutMs};
+  if (access == Access::readOnly) return {path, SQLite::OPEN_READONLY, timeoutMs};
+  return {uriOf(path) + "?immutable=1", SQLite::OPEN_READONLY | SQLite::OPEN_URI, timeoutMs};
 }
 
 }  // namespace
@@ -125,9 +125,9 @@ bool isComplete(const std::string& path) {
   return fileBytes(path + "-wal") == 0 && fileBytes(path + "-journal") == 0;
 }
 
-SQLite::Database openConnection(const std::string& path, Access access, std::chrono::milliseconds patience) {
+SQLite::Database openConnection(const std::string& path, Access access, std::chrono::milliseconds timeout) {
   for (const char* ending : {"-journal", "-wal", "-shm"}) checkCompanion(path, ending);
-  SQLite::Database database = opened(path, access, static_cast<int>(patience.count()));
+  SQLite::Database database = opened(path, access, static_cast<int>(timeout.count()));
   ::sqlite3_limit(database.getHandle(), SQLITE_LIMIT_LENGTH, kMaxRowBytes);
   checkHeader(database, path);
   if (fileBytes(path + "-wal") > 0) setLogAtTheEnd(database, LogAtTheEnd::left);

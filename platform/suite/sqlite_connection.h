@@ -14,8 +14,8 @@ constexpr std::uint32_t kApplicationId = 0x4F4D5453;
 /// Raised when the table can no longer be used as before.
 constexpr std::uint32_t kLayoutVersion = 1;
 
-constexpr std::chrono::milliseconds kReadPatience{2000};
-constexpr std::chrono::milliseconds kWritePatience{500};
+constexpr std::chrono::milliseconds kReadTimeout{2000};
+constexpr std::chrono::milliseconds kWriteTimeout{500};
 
 /// What is at the store's place is no tag store, or a damaged one.
 class NoTagStore : public std::runtime_error {
@@ -34,7 +34,7 @@ bool isComplete(const std::string& path);
 
 /// Opens an existing file whose header is that of a tag store, or that is empty, and beside which stand only plain
 /// files of its user, this one or root. Nothing else is touched. Throws NoTagStore or SQLite::Exception.
-SQLite::Database openConnection(const std::string& path, Access access, std::chrono::milliseconds patience);
+SQLite::Database openConnection(const std::string& path, Access access, std::chrono::milliseconds timeout);
 
 enum class Content { none, tags };
 

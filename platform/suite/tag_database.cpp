@@ -63,7 +63,7 @@ void layOutNewStore(const std::string& path) {
 }
 
 StoreOutcome write(const std::string& path, const std::vector<TagValue>& tags, const std::vector<TagValue>& expected) {
-  SQLite::Database database = openConnection(path, Access::readWrite, kWritePatience);
+  SQLite::Database database = openConnection(path, Access::readWrite, kWriteTimeout);
   SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
   if (verifiedContent(database) == Content::none) database.exec(kLayout);
   if (!readAs(database, expected)) return {StoreState::changed, "another program has changed it meanwhile"};
@@ -75,7 +75,7 @@ StoreOutcome write(const std::string& path, const std::vector<TagValue>& tags, c
 }
 
 TagReading read(const std::string& path, Access access, const std::string& tag) {
-  SQLite::Database database = openConnection(path, access, kReadPatience);
+  SQLite::Database database = openConnection(path, access, kReadTimeout);
   const SQLite::Transaction snapshot(database);
   if (verifiedContent(database) == Content::none) return {.outcome = {StoreState::absent, {}}, .value = {}};
   return {.outcome = {}, .value = storedValue(database, tag)};

@@ -9,10 +9,10 @@ namespace calvero {
 namespace {
 
 /// Other commands hold the claim for a moment only.
-constexpr std::chrono::seconds kPatience{1};
+constexpr std::chrono::seconds kClaimTimeout{1};
 
 /// From a run's status to the end of its program: a message is shown in between.
-constexpr std::chrono::seconds kPatienceWithTheEnd{10};
+constexpr std::chrono::seconds kProgramEndTimeout{10};
 
 }  // namespace
 
@@ -24,8 +24,8 @@ bool OrderRuns::isCarriedOut(const PendingOrder& order) {
 }
 
 bool OrderRuns::keepOut(const PendingOrder& order) {
-  const auto patience = order.hasEnded() ? kPatienceWithTheEnd : kPatience;
-  return claim_.take(patience) != OrderClaim::Holder::another && !isHeld(order.volume);
+  const auto timeout = order.hasEnded() ? kProgramEndTimeout : kClaimTimeout;
+  return claim_.take(timeout) != OrderClaim::Holder::another && !isHeld(order.volume);
 }
 
 bool OrderRuns::isHeld(const std::string& volume) {

@@ -9,7 +9,7 @@
 namespace calvero {
 namespace {
 
-constexpr std::chrono::seconds kPatienceWithOtherWriters{5};
+constexpr std::chrono::seconds kOtherWritersTimeout{5};
 
 std::string absoluteStorePath(const std::string& path) {
   std::error_code unknown;
@@ -29,7 +29,7 @@ std::string StoredOrderTags::value(const std::string& tag) {
 }
 
 bool StoredOrderTags::store(const std::vector<TagValue>& tags, const std::vector<TagValue>& expected) {
-  const auto end = std::chrono::steady_clock::now() + kPatienceWithOtherWriters;
+  const auto end = std::chrono::steady_clock::now() + kOtherWritersTimeout;
   StoreOutcome outcome;
   do {
     outcome = writeTags(path_, tags, expected);  // waits for a lock itself

@@ -10,7 +10,7 @@ namespace faultfs {
 
 namespace {
 
-// Longer than the product's patience with a volume that does not answer.
+// Longer than the product's timeout for a volume that does not answer.
 constexpr std::chrono::milliseconds kDelay{2500};
 
 struct NamedErrno {

@@ -99,7 +99,7 @@ class FaultVolume:
                      self._keptNow() == self._kept)
 
     def runUndisturbed(self, program, method, plainUser):
-        """A run without a fault. On a machine that is too busy to answer a run within its patience it is refused, and
+        """A run without a fault. On a machine that is too busy to answer a run within its timeout it is refused, and
         is made again."""
         deadline = time.monotonic() + ENDS_WITHIN_SECONDS
         while True:

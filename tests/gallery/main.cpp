@@ -50,15 +50,15 @@ QPalette darkPalette() {
 }
 
 /// The part of the screen that the windows take, once the window manager has framed them.
-QPixmap fromScreen(const Sight& sight) {
+QPixmap fromScreen(const ShownScreen& screen) {
   constexpr std::chrono::milliseconds kTimeToBePainted{300};
   const auto deadline = std::chrono::steady_clock::now() + kTimeToBePainted;
   while (std::chrono::steady_clock::now() < deadline) {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
   }
-  QRect area = sight.shown->frameGeometry();
-  if (sight.window->isVisible()) area |= sight.window->frameGeometry();
-  return sight.shown->screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+  QRect area = screen.shown->frameGeometry();
+  if (screen.window->isVisible()) area |= screen.window->frameGeometry();
+  return screen.shown->screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
 }
 
 class Album {
@@ -66,12 +66,12 @@ class Album {
   explicit Album(const Choices& choices) : choices_(choices) {}
 
   /// Keeps a picture of what was not seen before, if it is wanted.
-  void keep(const Sight& sight) {
+  void keep(const ShownScreen& screen) {
     const auto& wanted = choices_.scenes;
-    const bool isWanted = wanted.empty() || std::find(wanted.begin(), wanted.end(), sight.name) != wanted.end();
-    if (!kept_.insert(sight.name).second || !isWanted) return;
-    const QPixmap picture = choices_.isFramed ? fromScreen(sight) : sight.shown->grab();
-    const std::string path = choices_.folder + "/" + sight.name + ".png";
+    const bool isWanted = wanted.empty() || std::find(wanted.begin(), wanted.end(), screen.name) != wanted.end();
+    if (!kept_.insert(screen.name).second || !isWanted) return;
+    const QPixmap picture = choices_.isFramed ? fromScreen(screen) : screen.shown->grab();
+    const std::string path = choices_.folder + "/" + screen.name + ".png";
     constexpr int kSmallestFile = 0;
     if (!picture.save(QString::fromStdString(path), "PNG", kSmallestFile)) {
       throw std::runtime_error("cannot write " + path);
@@ -87,11 +87,11 @@ void makeGallery(const Choices& choices) {
   QDir().mkpath(QString::fromStdString(choices.folder));
   Album album(choices);
   int faults = 0;
-  playAllScenes(choices.language, [&](const Sight& sight) {
-    if (choices.isSmall) sight.window->resize(1, 1);
-    album.keep(sight);
-    for (const QString& misfit : misfits(*sight.shown)) {
-      std::printf("%s %s: %s\n", choices.language.c_str(), sight.name.c_str(), misfit.toUtf8().constData());
+  playAllScenes(choices.language, [&](const ShownScreen& screen) {
+    if (choices.isSmall) screen.window->resize(1, 1);
+    album.keep(screen);
+    for (const QString& misfit : misfits(*screen.shown)) {
+      std::printf("%s %s: %s\n", choices.language.c_str(), screen.name.c_str(), misfit.toUtf8().constData());
       ++faults;
     }
   });
@@ -100,7 +100,7 @@ void makeGallery(const Choices& choices) {
 
 int run(int argumentCount, char** arguments) {
   Choices choices;
-  CLI::App options("Shows everything that the window can show, and keeps a picture of each sight.", "calvero-gallery");
+  CLI::App options("Shows everything that the window can show, and keeps a picture of each screen.", "calvero-gallery");
   options.add_option("folder", choices.folder, "Where the pictures go")->required();
   options.add_option("--language", choices.language, "Code of the language, such as de");
   options.add_option("--only", choices.scenes, "Names of the pictures to keep");

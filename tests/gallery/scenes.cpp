@@ -44,117 +44,117 @@ MountedVolume remote(MountedVolume volume) {
   return volume;
 }
 
-void addVolumes(Stage& stage) {
-  stage.volume(volumeOf("System", "ext4", 183 * kGigabyte, 512 * kGigabyte));
-  stage.volume(volumeOf(kData, "XFS", kFreeBytes, 1000 * kGigabyte));
-  stage.volume(removable(volumeOf(kLongName, "exFAT", 712 * kGigabyte, 2000 * kGigabyte)));
-  stage.volume(removable(volumeOf("صور العائلة 2023", "FAT32", 9 * kGigabyte, 32 * kGigabyte)));
-  stage.volume(remote(volumeOf("archive", "NFS", 1400 * kGigabyte, 8000 * kGigabyte)));
-  stage.volume(readOnly(removable(volumeOf("Installer", "ISO 9660", 0, 4 * kGigabyte))));
-  stage.volume(removable(volumeOf("写真 2024", "NTFS", 41 * kGigabyte, 128 * kGigabyte)));
+void addVolumes(SceneFixture& fixture) {
+  fixture.volume(volumeOf("System", "ext4", 183 * kGigabyte, 512 * kGigabyte));
+  fixture.volume(volumeOf(kData, "XFS", kFreeBytes, 1000 * kGigabyte));
+  fixture.volume(removable(volumeOf(kLongName, "exFAT", 712 * kGigabyte, 2000 * kGigabyte)));
+  fixture.volume(removable(volumeOf("صور العائلة 2023", "FAT32", 9 * kGigabyte, 32 * kGigabyte)));
+  fixture.volume(remote(volumeOf("archive", "NFS", 1400 * kGigabyte, 8000 * kGigabyte)));
+  fixture.volume(readOnly(removable(volumeOf("Installer", "ISO 9660", 0, 4 * kGigabyte))));
+  fixture.volume(removable(volumeOf("写真 2024", "NTFS", 41 * kGigabyte, 128 * kGigabyte)));
 }
 
 /// One volume, small or large enough for a run.
-void addOneVolume(Stage& stage, const std::string& name, std::uint64_t free) {
-  stage.volume(volumeOf(name, "ext4", free, 4 * free));
+void addOneVolume(SceneFixture& fixture, const std::string& name, std::uint64_t free) {
+  fixture.volume(volumeOf(name, "ext4", free, 4 * free));
 }
 
-void startRun(Stage& stage, const char* method = "algorithm_1") {
-  stage.click("buttonNext");
-  stage.click(method);
-  stage.expectAlert("question");
-  stage.expectAlert("notice");
-  stage.click("proceedBtn");
-  stage.waitForAlerts();
+void startRun(SceneFixture& fixture, const char* method = "algorithm_1") {
+  fixture.click("buttonNext");
+  fixture.click(method);
+  fixture.expectAlert("question");
+  fixture.expectAlert("notice");
+  fixture.click("proceedBtn");
+  fixture.waitForAlerts();
 }
 
-void refuseToClose(Stage& stage) {
-  stage.expectAlert("wiping-is-on");
-  stage.window().close();
-  stage.waitForAlerts();
+void refuseToClose(SceneFixture& fixture) {
+  fixture.expectAlert("wiping-is-on");
+  fixture.window().close();
+  fixture.waitForAlerts();
 }
 
 /// From the list of drives to the end of a run.
-void playWizard(Stage& stage) {
-  addVolumes(stage);
-  Gate& phaseOne = stage.gateBefore(FileCall::createFile, 1);
-  Gate& phaseTwo = stage.gateBefore(FileCall::open, kFileAt37Percent);
-  stage.play([&] {
-    stage.showWindow("volumes");
-    stage.clickTile(2);
-    stage.showWindow("volumes-long-name");
-    stage.clickTile(3);
-    stage.showWindow("volumes-right-to-left-name");
-    stage.clickTile(1);
-    stage.click("buttonNext");
-    stage.showWindow("methods");
-    stage.click("algorithm_8");
-    stage.showWindow("methods-gutmann");
-    stage.click("algorithm_1");
-    stage.expectAlert("question", AlertAnswer::alternateButton);
-    stage.click("proceedBtn");
-    stage.waitForAlerts();
+void playWizard(SceneFixture& fixture) {
+  addVolumes(fixture);
+  Latch& phaseOne = fixture.latchBefore(FileCall::createFile, 1);
+  Latch& phaseTwo = fixture.latchBefore(FileCall::open, kFileAt37Percent);
+  fixture.play([&] {
+    fixture.showWindow("volumes");
+    fixture.clickTile(2);
+    fixture.showWindow("volumes-long-name");
+    fixture.clickTile(3);
+    fixture.showWindow("volumes-right-to-left-name");
+    fixture.clickTile(1);
+    fixture.click("buttonNext");
+    fixture.showWindow("methods");
+    fixture.click("algorithm_8");
+    fixture.showWindow("methods-gutmann");
+    fixture.click("algorithm_1");
+    fixture.expectAlert("question", AlertAnswer::alternateButton);
+    fixture.click("proceedBtn");
+    fixture.waitForAlerts();
 
-    startRun(stage);
-    stage.waitFor("phase 1", [&] { return phaseOne.isReached(); });
-    stage.waitForText("labelPhase", stage.localised("Phase 1: Analyzing Data.."));
-    stage.showWindow("phase-1");
-    phaseOne.open();
+    startRun(fixture);
+    fixture.waitFor("phase 1", [&] { return phaseOne.isReached(); });
+    fixture.waitForText("labelPhase", fixture.localised("Phase 1: Analyzing Data.."));
+    fixture.showWindow("phase-1");
+    phaseOne.release();
 
-    stage.waitFor("phase 2", [&] { return phaseTwo.isReached(); });
-    stage.clock().advance(seconds(754));
-    stage.waitForText("tfElapsedTime", "00:12:34");
-    stage.waitFor("37 %", [&] { return stage.find<QProgressBar>("piDataWipe").value() == 37; });
-    stage.showWindow("phase-2");
-    refuseToClose(stage);
-    phaseTwo.open();
+    fixture.waitFor("phase 2", [&] { return phaseTwo.isReached(); });
+    fixture.clock().advance(seconds(754));
+    fixture.waitForText("tfElapsedTime", "00:12:34");
+    fixture.waitFor("37 %", [&] { return fixture.find<QProgressBar>("piDataWipe").value() == 37; });
+    fixture.showWindow("phase-2");
+    refuseToClose(fixture);
+    phaseTwo.release();
 
-    auto& completed = stage.window().completedWindow();
-    stage.show("completed", completed);
-    stage.showWindow("completed-page");
-    stage.click("completionPageOk");
-    stage.waitFor("the first page", [&] { return !completed.isVisible(); });
-    stage.showWindow("volumes-again");
+    auto& completed = fixture.window().completedWindow();
+    fixture.show("completed", completed);
+    fixture.showWindow("completed-page");
+    fixture.click("completionPageOk");
+    fixture.waitFor("the first page", [&] { return !completed.isVisible(); });
+    fixture.showWindow("volumes-again");
   });
 }
 
-void playCancel(Stage& stage) {
-  addOneVolume(stage, kData, kFreeBytes);
-  Gate& writing = stage.gateBefore(FileCall::open, 2);
-  Gate& cleaning = stage.gateBefore(FileCall::releaseSpace, 1);
-  stage.play([&] {
-    startRun(stage);
-    stage.waitFor("the run", [&] { return writing.isReached(); });
-    stage.expectAlert("aborted");
-    stage.once([&] { return cleaning.isReached(); },
-               [&] {
-                 stage.showWindow("cancelling");
-                 writing.open();
-                 cleaning.open();
-               });
-    stage.click("cancelBut");
-    stage.waitForAlerts();
+void playCancel(SceneFixture& fixture) {
+  addOneVolume(fixture, kData, kFreeBytes);
+  Latch& writing = fixture.latchBefore(FileCall::open, 2);
+  Latch& cleaning = fixture.latchBefore(FileCall::releaseSpace, 1);
+  fixture.play([&] {
+    startRun(fixture);
+    fixture.waitFor("the run", [&] { return writing.isReached(); });
+    fixture.expectAlert("aborted");
+    fixture.once([&] { return cleaning.isReached(); },
+                 [&] {
+                   fixture.showWindow("cancelling");
+                   writing.release();
+                   cleaning.release();
+                 });
+    fixture.click("cancelBut");
+    fixture.waitForAlerts();
   });
 }
 
-void playWithoutVolumes(Stage& stage) {
-  stage.play([&] {
-    stage.showWindow("no-volumes");
-    stage.expectAlert("nothing-to-erase");
-    stage.click("buttonNext");
-    stage.waitForAlerts();
+void playWithoutVolumes(SceneFixture& fixture) {
+  fixture.play([&] {
+    fixture.showWindow("no-volumes");
+    fixture.expectAlert("nothing-to-erase");
+    fixture.click("buttonNext");
+    fixture.waitForAlerts();
   });
 }
 
-void playRefusals(Stage& stage) {
-  addVolumes(stage);
-  stage.play([&] {
-    stage.clickTile(kReadOnlyTile);
-    stage.expectAlert("refused-read-only");
-    stage.click("buttonNext");
-    stage.waitForAlerts();
+void playRefusals(SceneFixture& fixture) {
+  addVolumes(fixture);
+  fixture.play([&] {
+    fixture.clickTile(kReadOnlyTile);
+    fixture.expectAlert("refused-read-only");
+    fixture.click("buttonNext");
+    fixture.waitForAlerts();
 
-    stage.clickTile(1);
+    fixture.clickTile(1);
     const std::pair<ErrorCode, const char*> refusals[] = {
         {ErrorCode::notPermitted, "refused-not-permitted"},
         {ErrorCode::busy, "refused-busy"},
@@ -163,117 +163,117 @@ void playRefusals(Stage& stage) {
         {ErrorCode::other, "refused-other"},
     };
     const auto failNextCheck = [&](ErrorCode code) {
-      const std::size_t next = stage.files().script.count(FileCall::checkDirectory) + 1;
-      stage.files().script.failAt(FileCall::checkDirectory, next, code);
+      const std::size_t next = fixture.files().script.count(FileCall::checkDirectory) + 1;
+      fixture.files().script.failAt(FileCall::checkDirectory, next, code);
     };
     for (const auto& [code, name] : refusals) {
       failNextCheck(code);
-      stage.expectAlert(name);
-      stage.click("buttonNext");
-      stage.waitForAlerts();
+      fixture.expectAlert(name);
+      fixture.click("buttonNext");
+      fixture.waitForAlerts();
     }
-    stage.click("buttonNext");
+    fixture.click("buttonNext");
     failNextCheck(ErrorCode::gone);
-    stage.expectAlert("refused-gone");
-    stage.click("proceedBtn");
-    stage.waitForAlerts();
-    stage.click("buttonBack");
-    stage.administratorCommand("pkexec /usr/bin/calvero-cli wipe /run/media/ann/Data");
+    fixture.expectAlert("refused-gone");
+    fixture.click("proceedBtn");
+    fixture.waitForAlerts();
+    fixture.click("buttonBack");
+    fixture.administratorCommand("pkexec /usr/bin/calvero-cli wipe /run/media/ann/Data");
     failNextCheck(ErrorCode::notPermitted);
-    stage.expectAlert("refused-but-for-administrator");
-    stage.click("buttonNext");
-    stage.waitForAlerts();
+    fixture.expectAlert("refused-but-for-administrator");
+    fixture.click("buttonNext");
+    fixture.waitForAlerts();
   });
 }
 
-void playFlawedRun(Stage& stage) {
-  addOneVolume(stage, kLongName, kFillerFileBytes);
-  stage.files().script.failAt(FileCall::fsync, 1, ErrorCode::other);
-  stage.play([&] {
-    startRun(stage);
-    stage.show("completed-flawed", stage.window().completedWindow());
-    stage.showWindow("completed-page-flawed");
+void playFlawedRun(SceneFixture& fixture) {
+  addOneVolume(fixture, kLongName, kFillerFileBytes);
+  fixture.files().script.failAt(FileCall::fsync, 1, ErrorCode::other);
+  fixture.play([&] {
+    startRun(fixture);
+    fixture.show("completed-flawed", fixture.window().completedWindow());
+    fixture.showWindow("completed-page-flawed");
   });
 }
 
 /// Most of what was free has been taken by others.
-void playPartialRun(Stage& stage) {
-  addOneVolume(stage, kLongName, kFillerFileBytes);
-  stage.files().volume(std::string("/media/") + kLongName).tellsFreeSpace = false;
-  stage.play([&] {
-    startRun(stage);
-    stage.show("completed-partial", stage.window().completedWindow());
-    stage.showWindow("completed-page-partial");
+void playPartialRun(SceneFixture& fixture) {
+  addOneVolume(fixture, kLongName, kFillerFileBytes);
+  fixture.files().volume(std::string("/media/") + kLongName).tellsFreeSpace = false;
+  fixture.play([&] {
+    startRun(fixture);
+    fixture.show("completed-partial", fixture.window().completedWindow());
+    fixture.showWindow("completed-page-partial");
   });
 }
 
-void playRunWithoutData(Stage& stage) {
-  addOneVolume(stage, kData, kFillerFileBytes);
-  stage.play([&] {
-    startRun(stage, "algorithm_7");
-    stage.show("completed-nothing", stage.window().completedWindow());
-    stage.showWindow("completed-page-nothing");
+void playRunWithoutData(SceneFixture& fixture) {
+  addOneVolume(fixture, kData, kFillerFileBytes);
+  fixture.play([&] {
+    startRun(fixture, "algorithm_7");
+    fixture.show("completed-nothing", fixture.window().completedWindow());
+    fixture.showWindow("completed-page-nothing");
   });
 }
 
-void playFullStorage(Stage& stage) {
-  addOneVolume(stage, kLongName, kFillerFileBytes);
-  stage.files().script.failAt(FileCall::fsync, 2, ErrorCode::full);
-  stage.play([&] {
-    startRun(stage);
-    stage.show("completed-storage-full", stage.window().completedWindow());
-    stage.showWindow("completed-page-storage-full");
+void playFullStorage(SceneFixture& fixture) {
+  addOneVolume(fixture, kLongName, kFillerFileBytes);
+  fixture.files().script.failAt(FileCall::fsync, 2, ErrorCode::full);
+  fixture.play([&] {
+    startRun(fixture);
+    fixture.show("completed-storage-full", fixture.window().completedWindow());
+    fixture.showWindow("completed-page-storage-full");
   });
 }
 
-void playLostVolume(Stage& stage) {
-  addOneVolume(stage, kLongName, kFillerFileBytes);
-  Gate& writing = stage.gateBefore(FileCall::open, 2);
-  stage.play([&] {
-    startRun(stage);
-    stage.waitFor("the run", [&] { return writing.isReached(); });
-    stage.files().volume(std::string("/media/") + kLongName).mounted = false;
-    stage.volumes().remove(kLongName);
-    writing.open();
-    stage.show("completed-lost", stage.window().completedWindow());
-    stage.showWindow("completed-page-lost");
+void playLostVolume(SceneFixture& fixture) {
+  addOneVolume(fixture, kLongName, kFillerFileBytes);
+  Latch& writing = fixture.latchBefore(FileCall::open, 2);
+  fixture.play([&] {
+    startRun(fixture);
+    fixture.waitFor("the run", [&] { return writing.isReached(); });
+    fixture.files().volume(std::string("/media/") + kLongName).mounted = false;
+    fixture.volumes().remove(kLongName);
+    writing.release();
+    fixture.show("completed-lost", fixture.window().completedWindow());
+    fixture.showWindow("completed-page-lost");
   });
 }
 
-void playLostState(Stage& stage) {
-  addOneVolume(stage, kData, kFillerFileBytes);
-  Gate& writing = stage.gateBefore(FileCall::open, 1);
-  stage.play([&] {
-    startRun(stage);
-    stage.waitFor("the run", [&] { return writing.isReached(); });
+void playLostState(SceneFixture& fixture) {
+  addOneVolume(fixture, kData, kFillerFileBytes);
+  Latch& writing = fixture.latchBefore(FileCall::open, 1);
+  fixture.play([&] {
+    startRun(fixture);
+    fixture.waitFor("the run", [&] { return writing.isReached(); });
     const std::string directory = fillerDirectoryPath(std::string("/media/") + kData);
-    stage.files().removeFromOutside(directory, ".temp1");
-    stage.expectAlert("unknown-error");
-    writing.open();
-    stage.waitForAlerts();
+    fixture.files().removeFromOutside(directory, ".temp1");
+    fixture.expectAlert("unknown-error");
+    writing.release();
+    fixture.waitForAlerts();
   });
 }
 
 /// A run that the suite ordered tells its end in a pop-up, and holds still while that is read.
-void playOrder(Stage& stage) {
-  addOneVolume(stage, kLongName, kFillerFileBytes);
-  stage.order(kLongName);
-  Gate& reading = stage.newGate();
-  stage.clock().atSleepOf(seconds(7), [&reading] { reading.pass(); });
-  stage.play([&] {
-    stage.waitFor("the pop-up", [&] { return reading.isReached(); });
-    stage.show("pop-up-finished", stage.popUp());
+void playOrder(SceneFixture& fixture) {
+  addOneVolume(fixture, kLongName, kFillerFileBytes);
+  fixture.order(kLongName);
+  Latch& reading = fixture.newLatch();
+  fixture.clock().atSleepOf(seconds(7), [&reading] { reading.wait(); });
+  fixture.play([&] {
+    fixture.waitFor("the pop-up", [&] { return reading.isReached(); });
+    fixture.show("pop-up-finished", fixture.popUp());
   });
 }
 
-void playCancelledOrder(Stage& stage) {
-  addOneVolume(stage, kData, kFillerFileBytes);
-  stage.order(kData);
-  Gate& writing = stage.gateBefore(FileCall::open, 1);
-  stage.play([&] {
-    stage.waitFor("the run", [&] { return writing.isReached(); });
-    stage.clock().atSleepOf(seconds(3), [&stage] { stage.show("pop-up-cancelled", stage.popUp()); });
-    stage.app().cancelProcess();
+void playCancelledOrder(SceneFixture& fixture) {
+  addOneVolume(fixture, kData, kFillerFileBytes);
+  fixture.order(kData);
+  Latch& writing = fixture.latchBefore(FileCall::open, 1);
+  fixture.play([&] {
+    fixture.waitFor("the run", [&] { return writing.isReached(); });
+    fixture.clock().atSleepOf(seconds(3), [&fixture] { fixture.show("pop-up-cancelled", fixture.popUp()); });
+    fixture.app().cancelProcess();
   });
 }
 
@@ -283,8 +283,8 @@ void playAllScenes(const std::string& language, const Visitor& visitor) {
   for (const auto play :
        {playWizard, playCancel, playWithoutVolumes, playRefusals, playFlawedRun, playPartialRun, playRunWithoutData,
         playFullStorage, playLostVolume, playLostState, playOrder, playCancelledOrder}) {
-    Stage stage(language, visitor);
-    play(stage);
+    SceneFixture fixture(language, visitor);
+    play(fixture);
   }
 }
 

@@ -18,7 +18,7 @@ from testkit.volume import FILLER_NAME, MEGABYTE
 SECONDS = int(os.environ.get("CALVERO_HOSTILE_SECONDS", "60"))
 STICKY, OPEN = 0o1777, 0o777
 # How much longer it may take until each way has succeeded at all.
-PATIENCE_SECONDS = 180
+TIMEOUT_SECONDS = 180
 WAYS = (("swap",), ("move",), ("plant",), ("swap", "plant"), ("move", "plant"), ("swap", "fill"), ("swap", "remove"),
         ("swap", "mount"))
 # Long enough for hundreds of the neighbour's actions behind each of the run's system calls.
@@ -160,7 +160,7 @@ class HostileNeighbour(SystemTest):
         return all((*self.successes.values(), self.exits[program.EXIT_FINISHED], self.exits[program.EXIT_REFUSED]))
 
     def isOverdue(self, until):
-        return time.monotonic() > until + PATIENCE_SECONDS
+        return time.monotonic() > until + TIMEOUT_SECONDS
 
     def attackedRun(self, target, outside, ways, slowed):
         ground = Ground(target, outside)

@@ -63,7 +63,7 @@ TEST_F(StoredOrderTagsTest, WaitsForAnotherProgramThatIsWriting) {
   EXPECT_TRUE(tags.store({{"a", "1"}}, kWhatever));
   auto other = std::make_unique<testing::WriteLock>(path());
   std::jthread releases([&other] {
-    std::this_thread::sleep_for(kWritePatience + std::chrono::milliseconds(100));  // longer than one attempt waits
+    std::this_thread::sleep_for(kWriteTimeout + std::chrono::milliseconds(100));  // longer than one attempt waits
     other.reset();
   });
   EXPECT_TRUE(tags.store({{"a", "2"}}, kWhatever));

@@ -19,11 +19,11 @@ namespace calvero {
 namespace {
 
 using testing::misfits;
-using testing::Sight;
+using testing::ShownScreen;
 
 constexpr QSize kSmallScreen(1024, 700);
 constexpr std::size_t kLanguages = 15;
-constexpr std::size_t kFewestSights = 25;
+constexpr std::size_t kFewestScreens = 25;
 
 std::vector<std::string> languages() {
   std::vector<std::string> found;
@@ -33,21 +33,21 @@ std::vector<std::string> languages() {
   return found;
 }
 
-/// What a reader could not read at the window's smallest size, and the sights that there were.
+/// What a reader could not read at the window's smallest size, and the screens that there were.
 struct Reading {
   QStringList faults;
-  std::set<std::string> sights;
+  std::set<std::string> screens;
 };
 
-void read(const Sight& sight, Reading& reading) {
-  sight.window->resize(1, 1);
+void read(const ShownScreen& screen, Reading& reading) {
+  screen.window->resize(1, 1);
   QCoreApplication::processEvents();
-  QStringList faults = misfits(*sight.shown);
-  const QSize size = sight.shown->size();
+  QStringList faults = misfits(*screen.shown);
+  const QSize size = screen.shown->size();
   const bool isOnScreen = size.width() <= kSmallScreen.width() && size.height() <= kSmallScreen.height();
   if (!isOnScreen) faults += QStringLiteral("is %1 wide and %2 high").arg(size.width()).arg(size.height());
-  for (const QString& fault : faults) reading.faults += QString::fromStdString(sight.name) + ": " + fault;
-  reading.sights.insert(sight.name);
+  for (const QString& fault : faults) reading.faults += QString::fromStdString(screen.name) + ": " + fault;
+  reading.screens.insert(screen.name);
 }
 
 class TextsFit : public ::testing::TestWithParam<std::string> {
@@ -60,9 +60,9 @@ class TextsFit : public ::testing::TestWithParam<std::string> {
 
 TEST_P(TextsFit, OnEveryPageAndInEveryMessageAtTheSmallestSize) {
   Reading reading;
-  testing::playAllScenes(GetParam(), [&](const Sight& sight) { read(sight, reading); });
+  testing::playAllScenes(GetParam(), [&](const ShownScreen& screen) { read(screen, reading); });
   EXPECT_EQ(reading.faults.join('\n').toStdString(), "");
-  EXPECT_GE(reading.sights.size(), kFewestSights);
+  EXPECT_GE(reading.screens.size(), kFewestScreens);
 }
 
 INSTANTIATE_TEST_SUITE_P(In, TextsFit, ::testing::ValuesIn(languages()),

@@ -53,7 +53,7 @@ TEST_F(RunScreenOnThreads, DropsAPostedChangeOfARunThatIsNoLongerTheCurrentOne) 
 }
 
 TEST_F(RunScreenOnThreads, DropsAChangeOfARunThatIsNoLongerTheCurrentOne) {
-  screen.setStanding(RunStanding::outlived);
+  screen.setStanding(RunStanding::superseded);
   setProgress(42);
   EXPECT_THAT(world.journal.all(), IsEmpty());
 }
@@ -80,9 +80,9 @@ TEST_F(RunScreenOnThreads, FreesAWorkerThatWaitsForAnAnswerWhenTheProgramEnds) {
   EXPECT_THAT(world.journal.only({"alert"}), IsEmpty());
 }
 
-TEST_F(RunScreenOnThreads, AsksNothingForARunThatANewerOneHasOutlived) {
+TEST_F(RunScreenOnThreads, AsksNothingForARunThatANewerOneHasSuperseded) {
   world.alerts.willAnswer(AlertAnswer::alternateButton);
-  screen.setStanding(RunStanding::outlived);
+  screen.setStanding(RunStanding::superseded);
   EXPECT_EQ(screen.runModal({"title", "", "", ""}), AlertAnswer::defaultButton);
   EXPECT_THAT(world.journal.all(), IsEmpty());
 }

@@ -10,7 +10,7 @@
 #include "platform/linux/files/filler_claim.h"
 #include "platform/linux/files/folder_contents.h"
 #include "platform/linux/files/linux_filler_directory.h"
-#include "platform/linux/system/patient_question.h"
+#include "platform/linux/system/call_with_deadline.h"
 #include "platform/linux/system/posix_error.h"
 #include "platform/linux/volumes/volume_knowledge.h"
 
@@ -99,8 +99,8 @@ bool LinuxFiles::exists(const std::string& path) {
 }
 
 Error LinuxFiles::checkFillerDirectory(const std::string& volumePath, const std::string& directoryPath) {
-  PatientQuestion<VolumeLook> question([volumePath, directoryPath] { return lookAt(volumePath, directoryPath); });
-  const auto look = question.answerBy(endOfPatience());
+  CallWithDeadline<VolumeLook> call([volumePath, directoryPath] { return lookAt(volumePath, directoryPath); });
+  const auto look = call.resultBy(volumeDeadline());
   if (!look) return {ErrorCode::gone, "open", volumePath, "it does not answer"};
   Error error = look->root ? whyNotListed(volumePath, *look->root) : Error{};
   if (!error.failed()) error = look->error;

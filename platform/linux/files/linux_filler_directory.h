@@ -42,7 +42,7 @@ class LinuxFillerDirectory : public FillerDirectory {
   std::atomic<std::uint64_t> bytesNotKept_{0};
   std::atomic<std::uint64_t> cleanUpSteps_{0};
   // Guards nameRemoved_, and that nobody removes the name of the next run's directory. A cancel and the worker remove
-  // one after the other: each name removed under the other's reading costs both a vain call.
+  // one after the other: each name removed under the other's reading costs both a failed call.
   std::mutex removalMutex_;
   bool nameRemoved_ = false;
   HeldFiles held_;

@@ -17,14 +17,14 @@ bool hasRoom(int descriptor, int timeout) {
   return ::poll(&waited, 1, timeout) > 0;
 }
 
-bool getsRoom(int descriptor, std::chrono::milliseconds patience) {
+bool getsRoom(int descriptor, std::chrono::milliseconds timeout) {
   constexpr int kForever = -1;
   if (::isatty(descriptor) == 1) {
     while (!hasRoom(descriptor, kForever)) {
     }
     return true;
   }
-  const auto end = std::chrono::steady_clock::now() + patience;
+  const auto end = std::chrono::steady_clock::now() + timeout;
   do {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
     if (hasRoom(descriptor, static_cast<int>(std::max<std::chrono::milliseconds::rep>(left.count(), 0)))) return true;
@@ -42,9 +42,9 @@ void occupyStandardStreams() {
   }
 }
 
-int writeAll(int descriptor, std::string_view text, std::chrono::milliseconds patience) {
+int writeAll(int descriptor, std::string_view text, std::chrono::milliseconds timeout) {
   while (!text.empty()) {
-    if (!getsRoom(descriptor, patience)) return kNobodyReads;
+    if (!getsRoom(descriptor, timeout)) return kNobodyReads;
     // A pipe with room takes so much without making its writer wait.
     const ssize_t bytes = ::write(descriptor, text.data(), std::min<std::size_t>(text.size(), PIPE_BUF));
     if (bytes < 0 && errno != EINTR && errno != EAGAIN) return errno;

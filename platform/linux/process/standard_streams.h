@@ -11,10 +11,13 @@ void occupyStandardStreams();
 
 constexpr int kNobodyReads = -1;
 
+/// Longer than any reader that is at work is silent; after it, an ending program has waited long enough.
+constexpr std::chrono::seconds kReaderTimeout{10};
+
 /// Writes all of `text`: 0, or the system's number of the failure, or kNobodyReads where no more is taken for
-/// `patience`. A reader that takes some of it now and then gets all of it. Waits for a terminal for ever: a person has
+/// `timeout`. A reader that takes some of it now and then gets all of it. Waits for a terminal for ever: a person has
 /// stopped it. Any thread.
-int writeAll(int descriptor, std::string_view text, std::chrono::milliseconds patience);
+int writeAll(int descriptor, std::string_view text, std::chrono::milliseconds timeout);
 
 /// Whether something can be written at once. Any thread.
 bool isReadyForText(int descriptor);

@@ -10,7 +10,7 @@
 #include <map>
 #include <system_error>
 
-#include "platform/linux/system/patient_question.h"
+#include "platform/linux/system/call_with_deadline.h"
 #include "platform/linux/system/posix_error.h"
 #include "platform/linux/volumes/backing_storage.h"
 #include "platform/linux/volumes/block_device.h"
@@ -35,17 +35,17 @@ bool answersForItsLabel(const Mount& mount) {
 }
 
 /// Tells folders from files, however many of them hang: all that may be asked about are asked at once.
-class FolderQuestions {
+class FolderLookups {
  public:
-  explicit FolderQuestions(const std::vector<Mount>& table) {
+  explicit FolderLookups(const std::vector<Mount>& table) {
     for (const Mount& mount : table) {
-      if (mayBeAFile(mount)) questions_.try_emplace(mount.path, [path = mount.path] { return leadsToFolder(path); });
+      if (mayBeAFile(mount)) calls_.try_emplace(mount.path, [path = mount.path] { return leadsToFolder(path); });
     }
   }
 
   /// A volume that does not answer is listed all the same.
   bool isFolder(const std::string& path, std::chrono::steady_clock::time_point deadline) {
-    return questions_.at(path).answerBy(deadline).value_or(true);
+    return calls_.at(path).resultBy(deadline).value_or(true);
   }
 
  private:
@@ -55,12 +55,12 @@ class FolderQuestions {
     return result == 0 && S_ISDIR(found.stx_mode);
   }
 
-  std::map<std::string, PatientQuestion<bool>> questions_;
+  std::map<std::string, CallWithDeadline<bool>> calls_;
 };
 
 std::vector<Mount> mountsOfVolumes(const std::string& tablePath, std::chrono::steady_clock::time_point deadline) {
   const std::vector<Mount> table = readMountTable(tablePath);
-  FolderQuestions folders(table);
+  FolderLookups folders(table);
   return volumesAmong(table, [&](const std::string& path) { return folders.isFolder(path, deadline); });
 }
 
@@ -116,9 +116,9 @@ std::string nameOf(const std::string& label, const std::string& mountPath) {
 }
 
 /// What is asked of one volume. The label and the figures apart: a volume may answer for one of them only.
-struct VolumeQuestions {
-  PatientQuestion<Description> description;
-  PatientQuestion<Figures> figures;
+struct VolumeCalls {
+  CallWithDeadline<Description> description;
+  CallWithDeadline<Figures> figures;
 };
 
 }  // namespace
@@ -127,19 +127,19 @@ LinuxVolumes::LinuxVolumes(ReclaimableBytes reclaimableBytes, KernelPaths paths)
     : reclaimableBytes_(std::move(reclaimableBytes)), paths_(std::move(paths)) {}
 
 std::vector<MountedVolume> LinuxVolumes::mountedVolumes() {
-  const auto deadline = endOfPatience();
+  const auto deadline = volumeDeadline();
   std::vector<Mount> mounts;
   try {
     // Half of the time, so that the volumes are left some to answer in.
-    mounts = mountsOfVolumes(paths_.mountTable, deadline - kPatience / 2);
+    mounts = mountsOfVolumes(paths_.mountTable, deadline - kVolumeTimeout / 2);
   } catch (const std::system_error&) {
     return {};
   }
-  std::vector<VolumeQuestions> questions;
+  std::vector<VolumeCalls> calls;
   for (const Mount& mount : mounts) {
-    questions.push_back(
-        {PatientQuestion<Description>([mount] { return descriptionOf(mount); }),
-         PatientQuestion<Figures>([mount, bytes = reclaimableBytes_] { return figuresOf(mount, bytes); })});
+    calls.push_back(
+        {CallWithDeadline<Description>([mount] { return descriptionOf(mount); }),
+         CallWithDeadline<Figures>([mount, bytes = reclaimableBytes_] { return figuresOf(mount, bytes); })});
   }
   std::vector<MountedVolume> volumes;
   std::vector<Identity> identities;
@@ -147,8 +147,8 @@ std::vector<MountedVolume> LinuxVolumes::mountedVolumes() {
   for (std::size_t i = 0; i < mounts.size(); ++i) {
     const Mount& mount = mounts[i];
     const dev_t device = deviceBehind(mount);
-    const Description told = questions[i].description.answerBy(deadline).value_or(Description{});
-    const Figures figures = questions[i].figures.answerBy(deadline).value_or(Figures{});
+    const Description told = calls[i].description.resultBy(deadline).value_or(Description{});
+    const Figures figures = calls[i].figures.resultBy(deadline).value_or(Figures{});
     identities.push_back(identityOf(mount));
     labels.push_back(nameOf(told.label.value_or(told.content.label), mount.path));
     volumes.push_back({.name = {},
@@ -178,12 +178,12 @@ bool LinuxVolumes::isEmergencyReadOnly(const std::string& mountPath) const {
 
 std::optional<bool> LinuxVolumes::isReadOnly(const std::string& mountPath) {
   if (isEmergencyReadOnly(mountPath)) return true;
-  PatientQuestion<std::optional<bool>> question([mountPath]() -> std::optional<bool> {
+  CallWithDeadline<std::optional<bool>> call([mountPath]() -> std::optional<bool> {
     const auto statistics = statisticsOf(mountPath);
     if (!statistics) return {};
     return (statistics->f_flag & ST_RDONLY) != 0;
   });
-  return question.answerBy(endOfPatience()).value_or(std::nullopt);
+  return call.resultBy(volumeDeadline()).value_or(std::nullopt);
 }
 
 std::optional<std::string> LinuxVolumes::mountPath(const std::string& name) {
@@ -209,7 +209,7 @@ Error LinuxVolumes::whyNotListed(const std::string& mountPath, const FileIdentit
 }
 
 Error LinuxVolumes::whyTooThin(const std::string& mountPath) {
-  PatientQuestion<std::string> question([mountPath, paths = paths_]() -> std::string {
+  CallWithDeadline<std::string> call([mountPath, paths = paths_]() -> std::string {
     try {
       const std::vector<Mount> table = readMountTable(paths.mountTable);
       const Mount* mount = MountTree(table).reachedAt(mountPath);
@@ -221,7 +221,7 @@ Error LinuxVolumes::whyTooThin(const std::string& mountPath) {
       return {};
     }
   });
-  const std::string why = question.answerBy(endOfPatience()).value_or("");
+  const std::string why = call.resultBy(volumeDeadline()).value_or("");
   return why.empty() ? Error{} : Error{ErrorCode::thinStorage, "look below", mountPath, why};
 }
 

@@ -8,7 +8,7 @@
 namespace calvero {
 
 /// What the list of volumes knows of the place of one of them. Any thread; never waits for a disk for longer than a
-/// volume's patience.
+/// volume's timeout.
 class VolumeKnowledge {
  public:
   virtual ~VolumeKnowledge() = default;

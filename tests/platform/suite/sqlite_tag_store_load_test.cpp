@@ -82,8 +82,8 @@ class MessagePipe {
   [[nodiscard]] std::optional<Message> next() const {
     pollfd ready = {.fd = ends_[0], .events = POLLIN, .revents = 0};
     Message message;
-    const auto patience = static_cast<int>(std::chrono::milliseconds(kLong).count());
-    if (::poll(&ready, 1, patience) != 1) return std::nullopt;
+    const auto timeoutMs = static_cast<int>(std::chrono::milliseconds(kLong).count());
+    if (::poll(&ready, 1, timeoutMs) != 1) return std::nullopt;
     return ::read(ends_[0], &message, sizeof message) == sizeof message ? std::optional(message) : std::nullopt;
   }
   /// This process sends no more.

@@ -72,8 +72,8 @@ inline std::optional<std::string> tagIn(const std::string& path, const std::stri
 
 /// What another program does with the file.
 inline void runSql(const std::string& path, const std::string& sql) {
-  constexpr int kPatienceMs = 5000;
-  SQLite::Database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, kPatienceMs).exec(sql);
+  constexpr int kTimeoutMs = 5000;
+  SQLite::Database(path, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, kTimeoutMs).exec(sql);
 }
 
 inline std::string sqlText(const std::string& path, const std::string& query) {

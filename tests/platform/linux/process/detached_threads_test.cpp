@@ -36,7 +36,7 @@ TEST(DetachedThreads, CutsANameThatIsTooLong) {
   EXPECT_EQ(name, "calvero-0123456");
 }
 
-TEST(DetachedThreads, WaitsInVainForAThreadThatGoesOn) {
+TEST(DetachedThreads, TimesOutWhileAThreadGoesOn) {
   DetachedThreads threads;
   std::promise<void> release;
   threads.detach("waiting", [&] { release.get_future().wait(); });

@@ -7,7 +7,7 @@
 #include <fstream>
 
 #include "platform/linux/files/linux_files.h"
-#include "platform/linux/system/patient_question.h"
+#include "platform/linux/system/call_with_deadline.h"
 #include "platform/linux/volumes/linux_volumes.h"
 #include "platform/linux/volumes/volume_label.h"
 #include "tests/platform/linux/volumes/mount_table_file.h"
@@ -248,7 +248,7 @@ TEST_F(RealVolumes, AreAllListedInTimeAlthoughSeveralHangWhateverTheyAreAsked) {
   LinuxVolumes volumes([](const std::string&) { return std::uint64_t{0}; }, {.mountTable = table.path()});
   const auto before = std::chrono::steady_clock::now();
   const auto listed = volumes.mountedVolumes();
-  EXPECT_LT(std::chrono::steady_clock::now() - before, kPatience + std::chrono::seconds(1));
+  EXPECT_LT(std::chrono::steady_clock::now() - before, kVolumeTimeout + std::chrono::seconds(1));
   ASSERT_EQ(listed.size(), 4U);
   EXPECT_EQ(listed[0].name, "hanging");
   EXPECT_EQ(listed[1].name, "first");

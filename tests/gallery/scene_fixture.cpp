@@ -1,4 +1,4 @@
-#include "tests/gallery/stage.h"
+#include "tests/gallery/scene_fixture.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -22,21 +22,21 @@ constexpr std::uint64_t kWritableBytes = 256 * 1024;
 
 }  // namespace
 
-void Gate::pass() {
+void Latch::wait() {
   std::unique_lock lock(mutex_);
-  if (isOpen_) return;
+  if (isReleased_) return;
   isReached_ = true;
   onArrival_();
-  opened_.wait(lock, [this] { return isOpen_; });
+  released_.wait(lock, [this] { return isReleased_; });
 }
 
-void Gate::open() {
+void Latch::release() {
   const std::scoped_lock lock(mutex_);
-  isOpen_ = true;
-  opened_.notify_all();
+  isReleased_ = true;
+  released_.notify_all();
 }
 
-bool Gate::isReached() const {
+bool Latch::isReached() const {
   const std::scoped_lock lock(mutex_);
   return isReached_;
 }
@@ -67,49 +67,50 @@ void SceneClock::sleep(Duration duration) {
   std::this_thread::sleep_for(kMoment);
 }
 
-Stage::Stage(const std::string& language, Visitor visitor) : visitor_(std::move(visitor)), texts_(language) {
+SceneFixture::SceneFixture(const std::string& language, Visitor visitor)
+    : visitor_(std::move(visitor)), texts_(language) {
   texts_.install();
 }
 
 // The threads of a run use the controller to their end. Some would go on until the process ends.
-Stage::~Stage() {
-  openGates();
+SceneFixture::~SceneFixture() {
+  releaseLatches();
   if (app_) app_->currentRun()->terminateThread = 1;
   session_.reset();
   if (ports_ && !ports_->threads.waitForAll(kLimit)) std::terminate();
 }
 
-void Stage::volume(MountedVolume volume) {
+void SceneFixture::volume(MountedVolume volume) {
   files_.addVolume(volume.mountPath, kWritableBytes).readOnly = volume.readOnly;
   volumes_.add(std::move(volume));
 }
 
-void Stage::order(const std::string& volumeName) {
+void SceneFixture::order(const std::string& volumeName) {
   tags_.put("cvrOnline", "1");
   tags_.put("cvrDrive", volumeName);
   tags_.put("cvrAlgo", "1");
 }
 
-Gate& Stage::newGate() {
-  return gates_.emplace_back([this] { wake(); });
+Latch& SceneFixture::newLatch() {
+  return latches_.emplace_back([this] { wake(); });
 }
 
-Gate& Stage::gateBefore(FileCall call, std::size_t nth) {
-  Gate& gate = newGate();
-  files_.script.before(call, nth, [&gate] { gate.pass(); });
-  return gate;
+Latch& SceneFixture::latchBefore(FileCall call, std::size_t nth) {
+  Latch& latch = newLatch();
+  files_.script.before(call, nth, [&latch] { latch.wait(); });
+  return latch;
 }
 
-void Stage::openGates() {
-  for (Gate& gate : gates_) gate.open();
+void SceneFixture::releaseLatches() {
+  for (Latch& latch : latches_) latch.release();
 }
 
 /// Waiting conditions are looked at again.
-void Stage::wake() const {
+void SceneFixture::wake() const {
   ports_->loop.post([] {});
 }
 
-void Stage::play(const std::function<void()>& scenes) {
+void SceneFixture::play(const std::function<void()>& scenes) {
   ports_ = std::make_unique<WizardPorts>(SuiteServices{tags_, desktop_, desktop_, texts_});
   ports_->popUp.onUndisplayed = nullptr;  // a picture is taken of it, even without a screen
   ports_->commandForAdministrator = [this](const std::string&) { return administratorCommand_; };
@@ -140,51 +141,51 @@ void Stage::play(const std::function<void()>& scenes) {
     } catch (const std::exception& error) {
       failure_ = error.what();
     }
-    openGates();
+    releaseLatches();
     ports_->loop.terminate();
   });
   ports_->loop.run();
   if (!failure_.empty()) throw std::runtime_error(failure_);
 }
 
-void Stage::show(const std::string& name, QWidget& shown) {
+void SceneFixture::show(const std::string& name, QWidget& shown) {
   waitFor("the window of " + name, [&shown] { return shown.isVisible(); });
   QApplication::processEvents();  // laid out as it will stay
   visitor_({name, &shown, &window()});
 }
 
-void Stage::click(const char* button) {
+void SceneFixture::click(const char* button) {
   auto& clicked = find<QAbstractButton>(button);
   if (!clicked.isVisible() || !clicked.isEnabled()) throw std::runtime_error(std::string("nobody can press ") + button);
   clicked.click();
 }
 
-void Stage::clickTile(std::size_t index) {
+void SceneFixture::clickTile(std::size_t index) {
   window().volumes().tiles().tile(index)->onPressed();
 }
 
-void Stage::expectAlert(const std::string& name, AlertAnswer answer) {
+void SceneFixture::expectAlert(const std::string& name, AlertAnswer answer) {
   expected_.push_back({name, answer});
 }
 
-void Stage::waitForAlerts() {
+void SceneFixture::waitForAlerts() {
   waitFor("alert " + (expected_.empty() ? "" : expected_.front().name),
           [this] { return expected_.empty() && QApplication::activeModalWidget() == nullptr; });
 }
 
-void Stage::waitFor(const std::string& what, const std::function<bool()>& condition) {
+void SceneFixture::waitFor(const std::string& what, const std::function<bool()>& condition) {
   if (!ports_->loop.serveUntil([&] { return !failure_.empty() || condition(); }, kLimit)) {
     throw std::runtime_error("in vain: " + what);
   }
   if (!failure_.empty()) throw std::runtime_error(failure_);
 }
 
-void Stage::waitForText(const char* label, const std::string& text) {
+void SceneFixture::waitForText(const char* label, const std::string& text) {
   const auto& waiting = find<QLabel>(label);
   waitFor(label, [&] { return waiting.text().toStdString() == text; });
 }
 
-void Stage::once(std::function<bool()> condition, std::function<void()> action) {
+void SceneFixture::once(std::function<bool()> condition, std::function<void()> action) {
   const auto timer = std::make_shared<TimerId>(kNoTimer);
   const auto look = [this, timer, condition = std::move(condition), action = std::move(action)] {
     if (!condition()) return;
@@ -194,7 +195,7 @@ void Stage::once(std::function<bool()> condition, std::function<void()> action) 
   *timer = ports_->loop.startTimer(kLookInterval, TimerKind::repeating, look);
 }
 
-void Stage::lookForAlert() {
+void SceneFixture::lookForAlert() {
   auto* alert = qobject_cast<QDialog*>(QApplication::activeModalWidget());
   if (alert == nullptr || !alert->isVisible() || isVisiting_) return;
   isVisiting_ = true;
@@ -209,7 +210,7 @@ void Stage::lookForAlert() {
   isVisiting_ = false;
 }
 
-void Stage::answer(QDialog& alert, const ExpectedAlert& expected) {
+void SceneFixture::answer(QDialog& alert, const ExpectedAlert& expected) {
   try {
     if (!expected.name.empty()) show(expected.name, alert);
   } catch (const std::exception& error) {

@@ -28,21 +28,21 @@ class QDialog;
 namespace calvero::testing {
 
 /// A point that a thread passes when it is let. Any thread.
-class Gate {
+class Latch {
  public:
   /// `onArrival` runs on the thread that comes.
-  explicit Gate(std::function<void()> onArrival) : onArrival_(std::move(onArrival)) {}
+  explicit Latch(std::function<void()> onArrival) : onArrival_(std::move(onArrival)) {}
 
-  void pass();
-  void open();
+  void wait();
+  void release();
   [[nodiscard]] bool isReached() const;
 
  private:
   const std::function<void()> onArrival_;
   mutable std::mutex mutex_;
-  std::condition_variable opened_;
+  std::condition_variable released_;
   bool isReached_ = false;
-  bool isOpen_ = false;
+  bool isReleased_ = false;
 };
 
 /// Time as a scene has it: only `advance` moves it. A sleep lasts a moment, whatever it was meant to last.
@@ -62,19 +62,19 @@ class SceneClock : public Clock {
   std::function<void()> hook_;
 };
 
-/// What is in sight when a visitor is called.
-struct Sight {
+/// What the window shows when a visitor is called.
+struct ShownScreen {
   std::string name;
   QWidget* shown;      ///< the window that the scene is about
   MainWindow* window;  ///< the window behind it
 };
-using Visitor = std::function<void(const Sight&)>;
+using Visitor = std::function<void(const ShownScreen&)>;
 
-/// The window and its controller, with volumes and a disk that exist in memory only. A stage is played once.
-class Stage {
+/// The window and its controller, with volumes and a disk that exist in memory only. Played once.
+class SceneFixture {
  public:
-  Stage(const std::string& language, Visitor visitor);
-  ~Stage();
+  SceneFixture(const std::string& language, Visitor visitor);
+  ~SceneFixture();
 
   // Before the play.
 
@@ -84,8 +84,8 @@ class Stage {
   /// What the administrator would type, whatever machine and user this is; without it there is nothing to type.
   void administratorCommand(const std::string& command) { administratorCommand_ = command; }
   /// Worker threads wait there until `open`.
-  Gate& gateBefore(FileCall call, std::size_t nth);
-  Gate& newGate();
+  Latch& latchBefore(FileCall call, std::size_t nth);
+  Latch& newLatch();
 
   /// Starts the program, runs `scenes` in its event loop, and ends it. Throws what they throw.
   void play(const std::function<void()>& scenes);
@@ -125,7 +125,7 @@ class Stage {
   void start();
   void lookForAlert();
   void answer(QDialog& alert, const ExpectedAlert& expected);
-  void openGates();
+  void releaseLatches();
   void wake() const;
 
   const Visitor visitor_;
@@ -137,7 +137,7 @@ class Stage {
   FakeLog log_{journal_};
   SceneClock clock_;
   Translations texts_;
-  std::deque<Gate> gates_;
+  std::deque<Latch> latches_;
   std::deque<ExpectedAlert> expected_;
   std::optional<std::string> administratorCommand_;
   bool isVisiting_ = false;
@@ -149,7 +149,7 @@ class Stage {
 };
 
 template <typename Kind>
-Kind& Stage::find(const char* name) const {
+Kind& SceneFixture::find(const char* name) const {
   auto* found = window().findChild<Kind*>(name);
   if (found == nullptr) throw std::runtime_error(std::string("the window has no ") + name);
   return *found;
