@@ -42,7 +42,7 @@ void AppDelegate::resetMethodChoice() {
   for (const Control button : kButtonOrder) {
     if (button != Control::butFastZeroWipe) controls.turnOff(button);
   }
-  // The first three are set twice, as the sequence of this step has it.
+  // The first three are set twice: others depend on the sequence of this step.
   controls.turnOn(Control::butFastZeroWipe);
   controls.turnOff(Control::butDOD5220);
   controls.turnOff(Control::butRandomWipe);

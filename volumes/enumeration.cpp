@@ -10,7 +10,7 @@ bool contains(const std::string& text, const char* part) {
   return text.find(part) != std::string::npos;
 }
 
-// The test for equality is covered by the one that follows; both stand, in this order.
+// The test for equality is covered by the one that follows; others depend on both, in this order.
 bool isOffered(const std::string& formatDescription) {
   constexpr const char* kAutomounter = "Unknown (autofs)";
   if (formatDescription == kAutomounter) return false;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <memory>
 #include <string>
 #include <utility>
@@ -23,16 +22,6 @@ class Item {
  private:
   std::string title_;
   std::shared_ptr<const Image> iconImage_;
-};
-
-/// A remembered picker index. The controller keeps one; nothing reads it.
-class CurrentSelection {
- public:
-  [[nodiscard]] std::size_t getCurrentSelection() const { return currentSelection_; }
-  void setCurrentSelection(std::size_t index) { currentSelection_ = index; }
-
- private:
-  std::size_t currentSelection_ = 0;
 };
 
 }  // namespace calvero

@@ -8,7 +8,8 @@
 namespace calvero {
 namespace {
 
-constexpr std::size_t kLastSelectable = 100;  // the picker has always held 101 tiles, and no more can be chosen
+/// Others depend on a picker of at most 101 tiles that can be chosen (docs/compatibility.md).
+constexpr std::size_t kLastSelectable = 100;
 constexpr std::size_t kNotFound = std::numeric_limits<std::size_t>::max();  // the first index of an empty selection
 constexpr bool kSelected = true;
 constexpr bool kPlain = false;
@@ -43,7 +44,7 @@ void MyCollectionView::moveSelection(const Indexes& indexes) {
   }
   controls_->setTileSelected(first, kSelected);
   currentSelection_ = first;
-  // The second answer can never come, after the look above; the rule has always had it, and keeps it.
+  // The second answer can never come, after the check above; it stays as a part of the rule that others depend on.
   *currentSelectionG_ = currentSelection_ <= kLastSelectable ? currentSelection_ : previousSelection_;
   notifications_->post(kSelectionChanged);
 }

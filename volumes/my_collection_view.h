@@ -22,7 +22,8 @@ class MyCollectionView {
 
   /// The user has chosen: keeps one tile drawn as selected and posts "SelectionChanged".
   void setSelectionIndexes(const Indexes& indexes);
-  /// An older form of the rule, which nothing calls: it does not look whether the list has shrunk.
+  /// An older form of the rule, which nothing here calls: it does not look whether the list has shrunk. Kept for its
+  /// name.
   void setSelectionIndexes3(const Indexes& indexes);
   void reloadView() {}
 
@@ -40,9 +41,5 @@ class MyCollectionView {
   std::size_t currentSelection_ = 0;
   std::size_t previousSelection_ = 0;
 };
-
-/// Declared for layouts that name them; they have no behaviour.
-class Volumes {};
-class TableViewController {};
 
 }  // namespace calvero

@@ -21,8 +21,6 @@ struct VolumeTable {
   std::vector<std::uint64_t> capacityOfSelectedVolumeArray;   ///< total capacity, bytes
   std::vector<std::string> fileSystemOfSelectedVolumeArray;   ///< format descriptions
   std::vector<Item> items;
-  std::vector<bool> isReadOnlyArray;                     ///< stays empty: the flag is asked for when it is needed
-  std::vector<std::string> driveVolumeNameMutableArray;  ///< stays empty
 };
 
 /// One row of a table, held together with the table it indexes. The index is not checked until it is used: a query

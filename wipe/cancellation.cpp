@@ -89,7 +89,7 @@ void AppDelegate::waitForRemoval(const std::atomic<bool>& removed, const std::sh
 void AppDelegate::returnToFirstPageAfterCancel() {
   ports_.alerts.runModal({localised("Information"), localised("Wiping process aborted"), localised("OK"), ""});
   ports_.eventLoop.post([this] { reloadVolumes(); });
-  ports_.eventLoop.post([this] { reloadVolumes(); });  // listed twice, as a cancel always has
+  ports_.eventLoop.post([this] { reloadVolumes(); });  // others depend on two listings
   ports_.eventLoop.post([this] { back(); });
   ports_.controls.setText(Control::labelPhase, localised("Phase 1: Analyzing Data.."));
   ports_.controls.redraw(Control::labelPhase);

@@ -37,7 +37,7 @@ void AppDelegate::deleteByFiles(WipeRun& run, std::uint64_t index) {
 
 void AppDelegate::deleteFiles(WipeRun& run) {
   auto volumePath = volumePathOf(run);
-  // A second look, as a clean-up has always taken: the volume may have gone since the first.
+  // A second look: the volume may have gone since the first, and nothing must be removed below its mount point then.
   if (volumePath && !ports_.files.exists(*volumePath)) volumePath.reset();
   if (!volumePath) {
     run.abortErasing = 1;

@@ -152,7 +152,7 @@ void AppDelegate::startDataThread() {
 void AppDelegate::startPhaseTwo(WipeRun& run) {
   run.screen.apply([](Controls& controls) { controls.hide(Control::buttonNext); });
   if (run.abortErasing != 0) {
-    // A cancel during phase 1 ends the application here; this outcome is meant.
+    // A cancel during phase 1 ends the application here: others depend on this outcome (docs/compatibility.md).
     reportUnknownError(run);
     return;
   }

@@ -58,7 +58,7 @@ struct WipeRun {
   std::uint64_t numTempFiles = 0;           ///< whole filler files that the free space holds
   std::vector<std::string> filePathsArray;  ///< the filler file set, in creation order
   VolumeSelection volume;                   ///< the volume as it was listed when the run started; unset before
-  std::string elapsed_time;                 ///< the clock thread's last text; nothing reads it
+  std::string elapsed_time;                 ///< the clock thread's last text; kept for its name
   /// Set before the run's threads start, and never again: whoever tells the run's time counts from here.
   std::optional<Clock::Duration> startedAt;
 

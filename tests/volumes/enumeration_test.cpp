@@ -99,8 +99,8 @@ TEST(VolumeEnumeration, ListsAReadOnlyVolumeLikeAnyOther) {
   world.volume(volume);
   const AppDelegate& app = world.create();
   EXPECT_THAT(app.volumes().volumeNameArray, ElementsAre("ROM"));
-  EXPECT_THAT(app.volumes().isReadOnlyArray, IsEmpty());
-  EXPECT_THAT(app.volumes().driveVolumeNameMutableArray, IsEmpty());
+  EXPECT_THAT(app.shell().isReadOnlyArray, IsEmpty());
+  EXPECT_THAT(app.shell().driveVolumeNameMutableArray, IsEmpty());
 }
 
 TEST(VolumeEnumeration, IgnoresTheOrderedNameInOrdinaryMode) {
