@@ -254,6 +254,8 @@ class AppDelegate {
   /// The mount path of the run's volume; nothing, once the volume is gone.
   std::optional<std::string> volumePathOf(WipeRun& run);
   std::optional<std::string> findVolume(WipeRun& run, const std::string& name);
+  /// The one rule for it. A volume that gives no answer counts as writable.
+  [[nodiscard]] bool isReadOnly(const std::string& path) const;
 
   /// Tells that the state is lost, and ends the application. The run takes no further step.
   void reportUnknownError(WipeRun& run);

@@ -4,7 +4,6 @@
 #include "ports/alerts.h"
 #include "ports/controls.h"
 #include "ports/event_loop.h"
-#include "ports/mounted_volumes.h"
 #include "ports/workspace.h"
 
 namespace calvero {
@@ -16,7 +15,7 @@ constexpr const char* kHomeApplication = "com.PelmarSoftware.PelmarMacCleaner";
 
 void AppDelegate::next() {
   const auto path = getVolumePath(volumes_->volumeNameArray.at(selectedTableRow_));
-  if (path && ports_.mountedVolumes.isReadOnly(*path) == true) {
+  if (path && isReadOnly(*path)) {
     ports_.alerts.runModal({localised("Information"), localised("Read only drive, please select other drives"),
                             localised("Ok"), localised("")});
     return;

@@ -68,12 +68,16 @@ void AppDelegate::setSelectedVolumeDescription() {
   controls.setText(Control::tfFreeSpace, getFormattedStringForSize(freeSpaceOnDisk()));
 }
 
+bool AppDelegate::isReadOnly(const std::string& path) const {
+  return ports_.mountedVolumes.isReadOnly(path) == true;
+}
+
 Error AppDelegate::checkSelectedVolume() {
   const std::string name = nameSelectedVolume();
   const auto path = getVolumePath(name);
   if (!path) return {ErrorCode::notFound, "look up", name, "it is not mounted any more"};
   // First: nobody could clear away what else is in the way there.
-  if (ports_.mountedVolumes.isReadOnly(*path) == true) {
+  if (isReadOnly(*path)) {
     return {ErrorCode::readOnly, "statvfs", *path, "it is mounted read-only"};
   }
   Error error = ports_.files.checkFillerDirectory(*path, fillerDirectoryPath(*path));

@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <QApplication>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <sstream>
 #include <system_error>
@@ -12,6 +11,7 @@
 #include "app/exit_code.h"
 #include "app/program_entry.h"
 #include "platform/linux/process/administrator.h"
+#include "platform/linux/process/detached_threads.h"
 #include "platform/linux/process/process_limits.h"
 #include "platform/linux/process/standard_streams.h"
 #include "platform/suite/claimed_tags.h"
@@ -30,10 +30,10 @@
 namespace calvero {
 namespace {
 
+constexpr int kFinished = static_cast<int>(ExitCode::finished);
 constexpr int kFailed = static_cast<int>(ExitCode::failed);
 constexpr int kWrongUsage = static_cast<int>(ExitCode::wrongUsage);
 constexpr int kRefused = static_cast<int>(ExitCode::refused);
-constexpr std::chrono::seconds kTimeForThreadsToEnd{2};
 constexpr std::chrono::seconds kTimeForTagsToBeStored{2};
 constexpr std::chrono::seconds kTimeForTheStatusToBeStored{600};
 
@@ -43,7 +43,7 @@ void printError(const std::string& text) {
 
 int print(const std::string& text) {
   const int failure = writeAll(STDOUT_FILENO, text, kReaderTimeout);
-  if (failure == 0) return 0;
+  if (failure == 0) return kFinished;
   printError("The output could not be written: " +
              (failure == kNobodyReads ? "nobody reads it" : std::generic_category().message(failure)));
   return kFailed;
@@ -101,16 +101,16 @@ int showWindow(int argumentCount, char** arguments) {
   WizardSession session(ports, app);
   ports.loop.post([&session] { session.start(); });
   int code = ports.loop.run();
-  const bool threadsEnded = ports.threads.waitForAll(kTimeForThreadsToEnd);
-  if (beganRemote || isRemoteNow()) {  // listing the volumes anew reads the order anew
-    waitForTheStatus(tags, session);
-    claim.giveUp();
-    code = exitCodeOf(*app.currentRun());
-  } else {
-    tags.waitUntilStored(kTimeForTagsToBeStored);
-  }
-  // A thread that hangs in the kernel would find everything destroyed under it.
-  if (!threadsEnded) std::_Exit(code);
+  const auto conclude = [&] {
+    if (beganRemote || isRemoteNow()) {  // listing the volumes anew reads the order anew
+      waitForTheStatus(tags, session);
+      claim.giveUp();
+      code = exitCodeOf(*app.currentRun());
+    } else {
+      tags.waitUntilStored(kTimeForTagsToBeStored);
+    }
+  };
+  endThreads(ports.threads, conclude, [&code] { return code; });
   return code;
 }
 

@@ -80,8 +80,7 @@ class OrderCommand {
     if (const std::string others = ambiguityOf(request_.volume, volume, volumes); !others.empty()) {
       return {ExitCode::refused, others};
     }
-    Error error = runs_.check(volume.name);
-    if (!error.failed() && volume.readOnly) error.code = ErrorCode::readOnly;
+    const Error error = runs_.check(volume.name);
     if (!error.failed()) return {};
     WipeReport report;
     report.volume = volume.name;

@@ -5,6 +5,7 @@
 
 #include "app/app_delegate.h"
 #include "methods/method_catalogue.h"
+#include "platform/linux/process/detached_threads.h"
 #include "platform/linux/process/process_limits.h"
 #include "terminal/commands/command_list.h"
 #include "terminal/commands/command_ports.h"
@@ -18,8 +19,6 @@
 
 namespace calvero {
 namespace {
-
-constexpr std::chrono::seconds kTimeForThreadsToEnd{2};
 
 /// Where a person reads the questions: never where another program reads the result.
 Output dialogueOutput(const WipeRequest& request, bool isPersonThere) {
@@ -49,10 +48,8 @@ class WipeCommand {
     if (!isChosen()) return closed();
     announce();
     session.run();
-    const bool threadsEnded = ports_.threads.waitForAll(kTimeForThreadsToEnd);
-    conclude(session);
-    // A thread that hangs in the kernel would find everything destroyed under it.
-    if (!threadsEnded) std::_Exit(static_cast<int>(afterOutput(report_.exitCode)));
+    endThreads(
+        ports_.threads, [&] { conclude(session); }, [&] { return static_cast<int>(afterOutput(report_.exitCode)); });
     return report_.exitCode;
   }
 
@@ -81,9 +78,7 @@ class WipeCommand {
     report_.mountPath = volumes[*row].mountPath;
     report_.freeBytes = volumes[*row].availableBytes;
     app_.setCurrentSelection(*row);
-    Error error = app_.checkSelectedVolume();
-    // A file system that has turned read-only by itself may still look writable.
-    if (!error.failed() && volumes[*row].readOnly) error.code = ErrorCode::readOnly;
+    const Error error = app_.checkSelectedVolume();
     if (error.code == ErrorCode::notPermitted) return refuseForWantOfRights(error);
     if (error.failed()) return refuse(refusalLine(report_, error));
     if (!method_ && isPersonThere_ && !request_.yes) {

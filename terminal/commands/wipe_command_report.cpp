@@ -1,11 +1,13 @@
 #include "terminal/commands/wipe_command_report.h"
 
 #include "app/app_delegate.h"
+#include "app/filled_in.h"
 #include "methods/method_catalogue.h"
 #include "platform/linux/process/administrator.h"
 #include "terminal/commands/command_words.h"
 #include "terminal/json_text.h"
 #include "terminal/text.h"
+#include "volumes/refusal.h"
 #include "wipe/lost_volume.h"
 
 namespace calvero {
@@ -44,12 +46,6 @@ std::string stepsFailed(const WipeReport& report) {
   const std::string count = std::to_string(faults) + (faults == 1 ? " step" : " steps");
   return count + " of the run failed on " + volumeText(report) +
          ", the first one: " + printable(report.firstFault.text());
-}
-
-std::string notPermitted(const std::string& volume) {
-  const std::string createFiles = " create files in the root folder of " + volume;
-  if (!isAdministrator()) return "You may not" + createFiles + "; run the program as root, for example with sudo";
-  return "Not even the administrator may" + createFiles + ": it is locked, or its file system is another user's";
 }
 
 }  // namespace
@@ -135,27 +131,10 @@ std::string remainsLine(const WipeReport& report) {
 }
 
 std::string refusalLine(const WipeReport& report, const Error& error) {
-  const std::string volume = volumeText(report);
-  switch (error.code) {
-    case ErrorCode::readOnly:
-      return "Read only drive, please select other drives";
-    case ErrorCode::notPermitted:
-      return notPermitted(volume);
-    case ErrorCode::busy:
-      return "Another run is wiping " + volume + "; wait until it has ended";
-    case ErrorCode::notOurs:
-      return printable(error.path) + " was not made by a run (" + printable(error.detail) +
-             "); move it away and start again";
-    case ErrorCode::locked:
-      return printable(error.path) + ", which an earlier run left, may not be changed (" + printable(error.detail) +
-             "); unlock it, for example with chattr -i -a, or remove it, and start again";
-    case ErrorCode::thinStorage:
-      return volume + " cannot be filled: " + printable(error.detail) + "; make room below it and start again";
-    case ErrorCode::notFound:
-      return volume + " is not mounted any more";
-    default:
-      return volume + " cannot be wiped: " + printable(error.text());
-  }
+  const RefusalWords& words = refusalWords(error.code);
+  const bool isToldTheAdministrator = words.administratorLine != nullptr && isAdministrator();
+  return filledIn(isToldTheAdministrator ? words.administratorLine : words.line,
+                  {volumeText(report), printable(error.path), printable(error.detail), printable(error.text())});
 }
 
 }  // namespace calvero

@@ -3,8 +3,8 @@
 import re
 
 FOLDERS = ("app", "methods", "volumes", "wipe", "remote", "window")
-# The look-ups themselves and the one function of the core that hands its key on to them.
-LOOKUPS = frozenset({"localised", "localise", "textFor", "setPhase"})
+# The look-ups themselves, the one function of the core that hands its key on to them, and the mark of a key in a table.
+LOOKUPS = frozenset({"localised", "localise", "textFor", "setPhase", "textKey"})
 CATALOGUE = "methods/method_catalogue.cpp"
 
 TOKEN = re.compile(

@@ -6,6 +6,7 @@
 #include <sys/vfs.h>
 #include <unistd.h>
 
+#include "platform/linux/system/last_part.h"
 #include "platform/linux/system/posix_error.h"
 
 namespace calvero {
@@ -61,7 +62,7 @@ FillerPlace::FillerPlace(OpenFolder root, std::string volumePath, std::string pa
     : root_(std::move(root)),
       volumePath_(std::move(volumePath)),
       path_(std::move(path)),
-      name_(path_.substr(path_.rfind('/') + 1)),
+      name_(lastPart(path_)),
       showsNoOwners_(fileSystemShowsNoOwners(root_.get())) {}
 
 bool FillerPlace::isFree() const {

@@ -9,6 +9,7 @@
 #include "platform/linux/files/folder_contents.h"
 #include "platform/linux/files/linux_filler_file.h"
 #include "platform/linux/process/process_limits.h"
+#include "platform/linux/system/last_part.h"
 #include "platform/linux/system/posix_error.h"
 #include "platform/linux/volumes/mount_table.h"
 #include "platform/linux/volumes/reserved_blocks.h"
@@ -23,10 +24,6 @@ constexpr int kCreateAttempts = 8;
 /// A worker that is in the middle of one call when the directory is removed may still add one entry, and a file system
 /// that needs room to remove something may need a moment to find what has just been given back.
 constexpr int kRemoveAttempts = 16;
-
-const char* lastPart(const std::string& path) {
-  return path.c_str() + (path.rfind('/') + 1);
-}
 
 constexpr mode_t kOwnerOnly = S_IRUSR | S_IWUSR;
 

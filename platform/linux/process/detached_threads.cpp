@@ -5,6 +5,7 @@
 
 #include <condition_variable>
 #include <cstddef>
+#include <cstdlib>
 #include <exception>
 #include <mutex>
 #include <thread>
@@ -78,6 +79,13 @@ void DetachedThreads::detach(const std::string& name, std::function<void()> body
 bool DetachedThreads::waitForAll(std::chrono::milliseconds timeout) {
   std::unique_lock lock(state_->mutex);
   return state_->changed.wait_for(lock, timeout, [this] { return state_->running == 0; });
+}
+
+void endThreads(DetachedThreads& threads, const std::function<void()>& conclude, const std::function<int()>& code,
+                std::chrono::milliseconds timeout) {
+  const bool haveEnded = threads.waitForAll(timeout);
+  conclude();
+  if (!haveEnded) std::_Exit(code());
 }
 
 }  // namespace calvero

@@ -32,4 +32,12 @@ class DetachedThreads : public Threads {
   const std::shared_ptr<State> state_;  // shared with the threads
 };
 
+/// How long an ending program waits for its threads.
+constexpr std::chrono::seconds kTimeForThreadsToEnd{2};
+
+/// Waits for `threads`, then has `conclude` do what is left to do. Where one of them still goes on, the process ends at
+/// once with what `code` gives: a thread that hangs in the kernel would find everything destroyed under it.
+void endThreads(DetachedThreads& threads, const std::function<void()>& conclude, const std::function<int()>& code,
+                std::chrono::milliseconds timeout = kTimeForThreadsToEnd);
+
 }  // namespace calvero

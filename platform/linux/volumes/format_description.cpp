@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "platform/linux/system/last_part.h"
 #include "platform/linux/volumes/mount_table.h"
 #include "platform/linux/volumes/volume_label.h"
 
@@ -81,7 +82,7 @@ bool isHelpersFolder(const Mount& mount) {
   const std::string_view path = mount.path;
   // Early document portals are of the plain type; AppImages carry the program's own name as their type.
   if (mount.type == "fuse" && path.starts_with("/run/user/")) return true;
-  return isFuse(mount) && path.substr(path.rfind('/') + 1).starts_with(".mount_");
+  return isFuse(mount) && std::string_view(lastPart(mount.path)).starts_with(".mount_");
 }
 
 std::string commonName(const std::string& type) {

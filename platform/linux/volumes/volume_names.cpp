@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <set>
 
+#include "platform/linux/system/last_part.h"
 #include "platform/linux/system/shown_text.h"
 
 namespace calvero {
@@ -39,7 +40,7 @@ std::string nameFromLabel(std::string_view raw) {
 }
 
 std::string lastPartOf(const std::string& path) {
-  return path == "/" ? path : path.substr(path.rfind('/') + 1);
+  return path == "/" ? path : lastPart(path);
 }
 
 std::vector<std::string> uniqueNames(const std::vector<NameRequest>& requests) {

@@ -49,6 +49,28 @@ TEST(DetachedThreads, HaveAllEndedWhenNoneWasStarted) {
   EXPECT_TRUE(DetachedThreads().waitForAll(kNoTime));
 }
 
+TEST(EndThreads, ConcludesAndGoesOnOnceAllHaveEnded) {
+  DetachedThreads threads;
+  threads.detach("quick", [] {});
+  bool isConcluded = false;
+  endThreads(
+      threads, [&] { isConcluded = true; }, [] { return 1; }, kLong);
+  EXPECT_TRUE(isConcluded);
+}
+
+TEST(EndThreads, ConcludesAndLeavesAtOnceWithTheCodeWhereAThreadHangs) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto end = [] {
+    DetachedThreads threads;
+    std::promise<void> never;
+    threads.detach("hanging", [&] { never.get_future().wait(); });
+    int code = 0;
+    endThreads(
+        threads, [&] { code = 7; }, [&] { return code; }, kNoTime);
+  };
+  EXPECT_EXIT(end(), ::testing::ExitedWithCode(7), "");
+}
+
 TEST(DetachedThreads, CountsAThreadAsEndedOnceItsBodyHasReleasedWhatItOwned) {
   DetachedThreads threads;
   auto owned = std::make_shared<int>(1);
