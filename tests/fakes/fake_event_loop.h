@@ -55,11 +55,6 @@ class FakeEventLoop : public EventLoop {
     posted_.wait(lock, [&] { return tasks_.size() >= tasks; });
   }
 
-  [[nodiscard]] std::size_t waitingTasks() const {
-    const std::scoped_lock lock(mutex_);
-    return tasks_.size();
-  }
-
   /// Fires a timer as if its interval had passed. An unknown one is ignored, as a real loop never fires it.
   void fire(TimerId timer) {
     const auto found = timers_.find(timer);

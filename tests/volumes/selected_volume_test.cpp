@@ -167,6 +167,19 @@ TEST(SelectedVolumeCheck, RefusesAReadOnlyVolumeBeforeItLooksAtAnythingOnIt) {
   EXPECT_EQ(world.files.script.count(FileCall::checkDirectory), 0U);
 }
 
+TEST(SelectedVolumeCheck, AsksTheVolumeWhetherItIsReadOnlyAndNotTheList) {
+  World world;
+  MountedVolume volume = described("ext4");
+  volume.readOnly = true;
+  world.volume(volume);
+  AppDelegate& app = world.launch();
+  world.files.volume(volume.mountPath).readOnly = false;
+  world.volumes.hideReadOnlyFlag(volume.mountPath);
+  EXPECT_FALSE(app.checkSelectedVolume().failed());
+  app.next();
+  EXPECT_EQ(world.controls.page(), static_cast<int>(Page::method));
+}
+
 TEST(SelectedVolumeCheck, TellsAVolumeThatIsNotMountedAnyMore) {
   World world;
   world.volume("DATA", 100'000);

@@ -192,6 +192,14 @@ TEST_F(ListedVolumes, DoNotTellTheReadOnlyFlagOfAPathThatIsGone) {
   EXPECT_EQ(volumes_.isReadOnly(mounts_.path()), false);
 }
 
+TEST_F(ListedVolumes, AreReadOnlyOnceAnErrorHasTurnedThemSoThoughTheyStillLookWritable) {
+  const std::string mount = "40 1 8:1 / " + mounts_.path() + " rw - ext4 /dev/a rw";
+  table_.tell(mount + "\n");
+  EXPECT_EQ(volumes_.isReadOnly(mounts_.path()), false);
+  table_.tell(mount + ",emergency_ro\n");
+  EXPECT_EQ(volumes_.isReadOnly(mounts_.path()), true);
+}
+
 TEST_F(ListedVolumes, AreLookedUpWhileTheyAreListedAnew) {
   table_.tell(kFirst + kSecond);
   ASSERT_THAT(list(), ElementsAre("disk", "disk 1"));
