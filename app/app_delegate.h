@@ -18,6 +18,7 @@
 #include "remote/authentication.h"
 #include "remote/remote_order.h"
 #include "volumes/volume_table.h"
+#include "wipe/run_scale.h"
 #include "wipe/wipe_run.h"
 
 namespace calvero {
@@ -32,7 +33,7 @@ struct Colour;
 class AppDelegate {
  public:
   /// Creates the controller and calls `init`.
-  explicit AppDelegate(const Ports& ports);
+  explicit AppDelegate(const Ports& ports, const RunScale& scale = {});
   ~AppDelegate();
   AppDelegate(const AppDelegate&) = delete;
   AppDelegate& operator=(const AppDelegate&) = delete;
@@ -169,7 +170,7 @@ class AppDelegate {
 
   /// Any thread.
   [[nodiscard]] static std::string getElapsedTimeForInterval(double seconds);
-  [[nodiscard]] static std::string getElapsedData(std::uint64_t finishedFiles);
+  [[nodiscard]] std::string getElapsedData(std::uint64_t finishedFiles) const;
   [[nodiscard]] static std::string getFormattedStringForSize(std::uint64_t bytes);
 
   // --- Remote orders: remote/remote_mode.cpp ---
@@ -263,6 +264,7 @@ class AppDelegate {
   [[nodiscard]] std::string localised(const std::string& key) const;
 
   Ports ports_;
+  const RunScale scale_;
   ShellState shell_;
   PopUpState popUp_;
   NotificationCentre notifications_;

@@ -9,8 +9,9 @@
 
 namespace calvero {
 
-AppDelegate::AppDelegate(const Ports& ports)
+AppDelegate::AppDelegate(const Ports& ports, const RunScale& scale)
     : ports_(ports),
+      scale_(scale),
       authentication_(ports.tagStore, ports.suiteWeb),
       collectionView_(ports.controls, notifications_, shell_.currentSelectionG),
       run_(std::make_shared<WipeRun>(ports.eventLoop, ports.controls, ports.alerts)) {

@@ -5,7 +5,6 @@
 #include "ports/files.h"
 #include "ports/system_log.h"
 #include "wipe/filler_names.h"
-#include "wipe/filler_size.h"
 #include "wipe/lost_volume.h"
 
 namespace calvero {
@@ -17,7 +16,7 @@ constexpr int kMostFailuresInARow = 16;
 }  // namespace
 
 std::uint64_t AppDelegate::getNumbOfFiles(const WipeRun& run) const {
-  return volumeOf(run).freeBytes() / kFillerFileBytes;
+  return volumeOf(run).freeBytes() / scale_.fillerBytes;
 }
 
 void AppDelegate::createFile(WipeRun& run) {

@@ -6,7 +6,6 @@
 #include "app/app_delegate.h"
 #include "ports/clock.h"
 #include "ports/controls.h"
-#include "wipe/filler_size.h"
 
 namespace calvero {
 namespace {
@@ -43,8 +42,8 @@ std::string AppDelegate::getElapsedTimeForInterval(double seconds) {
   return text;
 }
 
-std::string AppDelegate::getElapsedData(std::uint64_t finishedFiles) {
-  return getFormattedStringForSize(finishedFiles * kFillerFileBytes);
+std::string AppDelegate::getElapsedData(std::uint64_t finishedFiles) const {
+  return getFormattedStringForSize(finishedFiles * scale_.fillerBytes);
 }
 
 void AppDelegate::setElapsedTime(WipeRun& run) {

@@ -1,4 +1,3 @@
-#include <chrono>
 #include <exception>
 #include <system_error>
 #include <utility>
@@ -11,12 +10,9 @@
 #include "ports/files.h"
 #include "ports/system_log.h"
 #include "ports/threads.h"
-#include "wipe/filler_size.h"
 #include "wipe/progress_percent.h"
 
 namespace calvero {
-
-using std::chrono::seconds;
 
 bool AppDelegate::wipeConfirmed() {
   const Alert question{localised("Alert!!"),
@@ -50,7 +46,7 @@ void AppDelegate::proceed() {
   run_->volume = selection();
   run_->abortErasing = 0;
   shell_.wipingProcessOn = 1;
-  ports_.clock.sleep(seconds(1));
+  ports_.clock.sleep(scale_.pauseBeforeStart);
   run_->terminateThread = 0;
   startRunThreads();
 }
@@ -121,7 +117,7 @@ void AppDelegate::setPhase(WipeRun& run, const std::string& key) {
 
 void AppDelegate::startPhaseOne(WipeRun& run) {
   ports_.log.line("terminate thread in phjase1 = " + std::to_string(run.terminateThread));
-  ports_.clock.sleep(seconds(0));
+  ports_.clock.sleep(Clock::Duration::zero());
   if (run.terminateThread != 0) return;
 
   if (order_.cloudInitiation != 0) redirectToAlog();
@@ -135,7 +131,7 @@ void AppDelegate::startPhaseOne(WipeRun& run) {
   for (int percent = 0; percent <= 100; ++percent) {
     run.screen.apply([percent](Controls& controls) { controls.setProgress(percent); });
   }
-  ports_.clock.sleep(seconds(1));
+  ports_.clock.sleep(scale_.pauseAfterLayout);
   run.screen.apply([](Controls& controls) { controls.setProgress(0); });
   startPhaseTwo(run);
 }
@@ -179,7 +175,7 @@ void AppDelegate::wipeFreeSpace(WipeRun& run) {
       return;
     }
     directory->readAttributes(path);
-    const FillEnd end = fillFilePath(run, path, kFillerFileBytes);
+    const FillEnd end = fillFilePath(run, path, scale_.fillerBytes);
     run.screen.apply(
         [text = getElapsedData(i)](Controls& controls) { controls.setText(Control::tfElapsedData, text); });
     if (run.screen.mainWindowVisible()) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/exit_code.h"
+#include "wipe/run_scale.h"
 
 namespace calvero {
 
@@ -35,7 +36,7 @@ struct CancelRequest {
 
 ExitCode volumesCommand(const ListRequest& request);
 ExitCode methodsCommand(const ListRequest& request);
-ExitCode wipeCommand(const WipeRequest& request);
+ExitCode wipeCommand(const WipeRequest& request, const RunScale& scale);
 
 // What another program orders, through the suite's tag store. They throw what the store cannot do.
 ExitCode orderCommand(const OrderRequest& request);

@@ -30,12 +30,12 @@ Output dialogueOutput(const WipeRequest& request, bool isPersonThere) {
 
 class WipeCommand {
  public:
-  WipeCommand(const WipeRequest& request, std::optional<std::int32_t> method, bool isPersonThere)
+  WipeCommand(const WipeRequest& request, std::optional<std::int32_t> method, bool isPersonThere, const RunScale& scale)
       : request_(request),
         isPersonThere_(isPersonThere),
         method_(method),
         ports_(dialogueOutput(request, isPersonThere), request.yes ? Answering::defaultButtons : Answering::person),
-        app_(ports_.ports()) {
+        app_(ports_.ports(), scale) {
     report_.volume = request.volume.value_or("");
   }
 
@@ -178,7 +178,7 @@ ExitCode wrongUsage(const std::string& line) {
 
 }  // namespace
 
-ExitCode wipeCommand(const WipeRequest& request) {
+ExitCode wipeCommand(const WipeRequest& request, const RunScale& scale) {
   std::optional<std::int32_t> method;
   if (request.method) {
     method = methodNamed(*request.method);
@@ -197,7 +197,7 @@ ExitCode wipeCommand(const WipeRequest& request) {
     return wrongUsage("As administrator, name the volume to erase; calvero-cli volumes lists them");
   }
   raiseOpenFileLimit();
-  return WipeCommand(request, method, isPersonThere).run();
+  return WipeCommand(request, method, isPersonThere, scale).run();
 }
 
 }  // namespace calvero

@@ -42,7 +42,8 @@ AppDelegate& World::create() {
                                              .systemNotifications = systemNotifications,
                                              .tagStore = tags,
                                              .threads = threads,
-                                             .workspace = desktop});
+                                             .workspace = desktop},
+                                       scale);
   loop.whenServed([this] { threads.runWaiting("calvero-cancel"); });
   return *app_;
 }

@@ -34,6 +34,8 @@ class World {
   /// The suite orders a wipe.
   void order(const std::string& driveName, const std::string& method);
 
+  RunScale scale;
+
   // --- The program ---
 
   /// Makes the controller; no window is used yet.

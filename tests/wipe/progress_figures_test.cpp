@@ -98,9 +98,11 @@ TEST(SizeText, RoundsATieToTheEvenDigit) {
 }
 
 TEST(ErasedAmount, IsTheFullSizeOfEveryFinishedFile) {
-  EXPECT_EQ(AppDelegate::getElapsedData(0), "0.00 KB");
-  EXPECT_EQ(AppDelegate::getElapsedData(1), "128.00 MB");
-  EXPECT_EQ(AppDelegate::getElapsedData(8), "1.02 GB");
+  World world;
+  const AppDelegate& app = world.create();
+  EXPECT_EQ(app.getElapsedData(0), "0.00 KB");
+  EXPECT_EQ(app.getElapsedData(1), "128.00 MB");
+  EXPECT_EQ(app.getElapsedData(8), "1.02 GB");
 }
 
 TEST(TimeText, ShowsHoursMinutesAndSeconds) {

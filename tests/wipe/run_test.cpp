@@ -54,6 +54,23 @@ TEST_F(Proceed, AsksGivesTheNoticeAndStartsBothThreadsInOrder) {
   EXPECT_EQ(world.app().shell().wipingProcessOn, 1);
 }
 
+TEST_F(Proceed, TakesItsFillerSizeAndPausesFromTheScaleThatIsHandedIn) {
+  world.scale = {.fillerBytes = 100'000'000,
+                 .pauseBeforeStart = std::chrono::seconds(4),
+                 .pauseAfterLayout = std::chrono::seconds(5)};
+  reachMethodPage();
+  world.proceed();
+  EXPECT_THAT(world.journal.only({"sleep"}), ElementsAre("sleep 4"));
+  world.journal.clear();
+  world.runWorker();
+  EXPECT_EQ(world.app().currentRun()->numTempFiles, 3U);
+  EXPECT_THAT(world.journal.only({"sleep"}), ElementsAre("sleep 0", "sleep 5"));
+  EXPECT_THAT(world.journal.only({"setText tfElapsedData"}),
+              ElementsAre("setText tfElapsedData \"0.00 KB\"", "setText tfElapsedData \"100.00 MB\"",
+                          "setText tfElapsedData \"200.00 MB\"", "setText tfElapsedData \"300.00 MB\""));
+  EXPECT_EQ(world.app().currentRun()->outcome, RunOutcome::finished);
+}
+
 TEST_F(Proceed, ReturnsToTheVolumePageOnNoWithoutAFlagOrThread) {
   reachMethodPage();
   world.app().setAbortErasing(true);
