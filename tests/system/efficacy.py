@@ -4,11 +4,12 @@ import os
 
 from case import FREE_SPACE_SLACK_BYTES, SystemTest
 from testkit.marks import KeptFiles, MarkedData
+from testkit.volume import FILLER_BYTES
 
 
 class EfficacyTest(SystemTest):
     fs = ""
-    mebibytes = 704
+    mebibytes = 400  # more than two full filler files and a part of one
     # A volume full of marked files, less its metadata and what it keeps back for itself.
     leastMarkedBefore = 0.8
     mostReadableBytes = 0
@@ -21,6 +22,7 @@ class EfficacyTest(SystemTest):
         self.assertGreater(before, self.leastMarkedBefore * target.sizeBytes)
 
         freeBefore = target.freeBytes()
+        self.assertGreater(freeBefore, 2 * FILLER_BYTES)
         allowed = self.mostReadableBytes + (target.bytesReservedForRoot() if plainUser else 0)
         report = self.wipe(target, method, plainUser)
         self.assertFalse(target.isReadOnly())

@@ -1,6 +1,7 @@
 """What the tests of ordered runs share: an order with a store, a home and perhaps a session bus of its own, and the
 program that carries it out, on no display unless it is given one."""
 
+import concurrent.futures
 import contextlib
 import os
 import pathlib
@@ -105,6 +106,14 @@ class RemoteTest(SystemTest):
         order = self.makeOrder(target, method, **options)
         order.start([self.windowProgramFor(order.plainUser)])
         return order
+
+    def besideEachOther(self, check, items):
+        """Calls `check` with each item, all at once, since it mostly waits. It must start no program of the test's:
+        those end with the thread that has started them."""
+        with concurrent.futures.ThreadPoolExecutor(len(items)) as pool:
+            for item, checked in [(item, pool.submit(check, *item)) for item in items]:
+                with self.subTest(item[0]):
+                    checked.result()
 
     def startBus(self, order):
         """A session bus for the order, before its program is started; returns its process."""

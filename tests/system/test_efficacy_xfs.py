@@ -3,6 +3,7 @@ from efficacy import EfficacyTest
 
 class EfficacyOnXfs(EfficacyTest):
     fs = "xfs"
+    mebibytes = 512  # of which its log takes 64
     mostReadableBytes = 33_600_000  # XFS keeps back up to 8192 blocks for itself.
 
     def testOnePassLeavesOnlyTheReserveReadable(self):

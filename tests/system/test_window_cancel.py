@@ -68,7 +68,7 @@ class Cancel(WindowTest):
 
 class Closing(WindowTest):
     def testClosingTheWindowDuringARunIsRefusedAndTheRunFinishes(self):
-        target = self.makeVolume("ext4", 150)
+        target = self.makeVolume("ext4", 48)
         window = self.startWindow()
         self.startWriting(window, target)
         window.closeWindow()

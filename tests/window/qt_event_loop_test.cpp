@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -127,6 +128,19 @@ TEST_F(QtEventLoopTest, AnActionMayStopItsOwnTimerAndGoOnUsingWhatItHolds) {
     });
   });
   EXPECT_EQ(seen, 7);
+}
+
+TEST_F(QtEventLoopTest, AnActionMayStopItsOwnTimerAndStartTheNextOneAgainAndAgain) {
+  constexpr int kLooks = 3;
+  TimerId own = kNoTimer;
+  int looks = 0;
+  std::function<void()> look = [&] {
+    loop.stopTimer(own);
+    if (++looks == kLooks) return loop.terminate();
+    own = loop.startTimer(milliseconds(1), TimerKind::repeating, look);
+  };
+  runWith([&] { own = loop.startTimer(milliseconds(1), TimerKind::repeating, look); });
+  EXPECT_EQ(looks, kLooks);
 }
 
 TEST_F(QtEventLoopTest, AStoppedTimerNeverFiresAndStoppingAnEndedOneHarmsNoOther) {

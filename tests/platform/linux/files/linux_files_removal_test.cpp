@@ -22,7 +22,8 @@ class FillerDirectoryRemoval : public FillerVolume {
 };
 
 TEST_F(FillerDirectoryRemoval, RemovesThousandsOfFiles) {
-  for (int number = 0; number < 5000; ++number) {
+  constexpr int kFiles = 2200;  // more than the system tells of at once, twice over
+  for (int number = 0; number < kFiles; ++number) {
     ASSERT_FALSE(run_->createEmptyFile(pathOf(".temp" + std::to_string(number))).failed());
   }
   EXPECT_FALSE(run_->remove().failed());
