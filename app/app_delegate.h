@@ -89,7 +89,7 @@ class AppDelegate {
   void cloudControl();
   void getItNow();
 
-  // --- Methods: methods/method_selection.cpp, methods/pattern_buffers.cpp ---
+  // --- Methods: app/method_selection.cpp ---
 
   void fastZeroWipe();
   void randomWipe();

@@ -2,7 +2,6 @@
 
 #include <cstring>
 
-#include "app/app_delegate.h"
 #include "ports/random_source.h"
 
 namespace calvero {
@@ -115,15 +114,6 @@ const std::uint8_t* bufferOf(const PatternBuffers& buffers, Pattern pattern) {
       break;
   }
   return nullptr;
-}
-
-void AppDelegate::createBuffersForErasing() {
-  buffers_.create(ports_.random);
-}
-
-const std::uint8_t* AppDelegate::fillBuffer(const std::uint8_t* /*current*/, std::int32_t /*size*/, std::int32_t method,
-                                            std::int32_t numPass) const {
-  return bufferOf(buffers_, plannedPattern(method, numPass));
 }
 
 }  // namespace calvero

@@ -78,4 +78,13 @@ void AppDelegate::setMethodTexts() {
   for (const EraseMethod& method : kMethodCatalogue) controls.setText(method.label, localised(method.labelKey));
 }
 
+void AppDelegate::createBuffersForErasing() {
+  buffers_.create(ports_.random);
+}
+
+const std::uint8_t* AppDelegate::fillBuffer(const std::uint8_t* /*current*/, std::int32_t /*size*/, std::int32_t method,
+                                            std::int32_t numPass) const {
+  return bufferOf(buffers_, plannedPattern(method, numPass));
+}
+
 }  // namespace calvero

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <limits>
 
 #include "methods/method_catalogue.h"
 #include "ports/control_names.h"
@@ -160,28 +159,6 @@ TEST(MethodCatalogue, HoldsTheNineMethodsWithTheirControlsLabelsAndPasses) {
     EXPECT_STREQ(method.labelKey, row.labelKey);
     EXPECT_EQ(method.passes, row.passes);
   }
-}
-
-TEST(MethodFromTag, ReadsTheOneBasedNumberAtTheStartOfTheText) {
-  EXPECT_EQ(methodFromTag("1"), 0);
-  EXPECT_EQ(methodFromTag("3"), 2);
-  EXPECT_EQ(methodFromTag("9"), 8);
-  EXPECT_EQ(methodFromTag(" 4"), 3);
-  EXPECT_EQ(methodFromTag("4x"), 3);
-  EXPECT_EQ(methodFromTag("+5"), 4);
-}
-
-TEST(MethodFromTag, IsNothingOutside1To9) {
-  for (const char* text :
-       {"0", "10", "-1", "", "abc", "x4", "- 4", "99999999999999999999", "4294967297", "-4294967295"}) {
-    EXPECT_EQ(methodFromTag(text), std::nullopt) << text;
-  }
-}
-
-TEST(IntegerValue, StopsAtTheNearest32BitNumber) {
-  EXPECT_EQ(integerValue("99999999999999999999"), std::numeric_limits<std::int32_t>::max());
-  EXPECT_EQ(integerValue("-99999999999999999999"), std::numeric_limits<std::int32_t>::min());
-  EXPECT_EQ(integerValue("-12"), -12);
 }
 
 class OrderedMethod : public ::testing::TestWithParam<std::pair<const char*, std::int32_t>> {};
