@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "app/fixed_values.h"
 #include "app/notification_centre.h"
 #include "app/shell_state.h"
 #include "methods/method_choice.h"
@@ -33,7 +34,7 @@ struct Colour;
 class AppDelegate {
  public:
   /// Creates the controller and calls `init`.
-  explicit AppDelegate(const Ports& ports, const RunScale& scale = {});
+  explicit AppDelegate(const Ports& ports, const FixedValues& fixed = {});
   ~AppDelegate();
   AppDelegate(const AppDelegate&) = delete;
   AppDelegate& operator=(const AppDelegate&) = delete;
@@ -100,7 +101,10 @@ class AppDelegate {
   void seventh_FAST_ZERO_WRITE();
   void eight_PETER_GUTTMAN();
   void ninth_ALGORITHM();
-  /// Calls the handler of erase method `number` (0 to 8), as if its button had been pressed.
+  /// The erase methods to choose from.
+  [[nodiscard]] MethodCatalogue methods() const { return fixed_.methods; }
+  /// Chooses the erase method of that number, as if its button had been pressed: by its handler, where it has one.
+  /// Throws std::out_of_range where there is no such method.
   void chooseMethod(std::int32_t number);
   /// Applies the remote order's method; a value outside "1" to "9" leaves the choice as it is. Worker thread.
   void redirectToAlog();
@@ -264,7 +268,7 @@ class AppDelegate {
   [[nodiscard]] std::string localised(const std::string& key) const;
 
   Ports ports_;
-  const RunScale scale_;
+  FixedValues fixed_;
   ShellState shell_;
   PopUpState popUp_;
   NotificationCentre notifications_;

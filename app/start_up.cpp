@@ -9,9 +9,9 @@
 
 namespace calvero {
 
-AppDelegate::AppDelegate(const Ports& ports, const RunScale& scale)
+AppDelegate::AppDelegate(const Ports& ports, const FixedValues& fixed)
     : ports_(ports),
-      scale_(scale),
+      fixed_(fixed),
       authentication_(ports.tagStore, ports.suiteWeb),
       collectionView_(ports.controls, notifications_, shell_.currentSelectionG),
       run_(std::make_shared<WipeRun>(ports.eventLoop, ports.controls, ports.alerts)) {

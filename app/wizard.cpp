@@ -1,6 +1,5 @@
 #include "app/app_delegate.h"
 #include "app/home_path.h"
-#include "methods/method_catalogue.h"
 #include "ports/alerts.h"
 #include "ports/controls.h"
 #include "ports/event_loop.h"
@@ -33,20 +32,6 @@ void AppDelegate::next() {
   controls.show(Control::buttonProceed);
   shell_.createFilePath = getVolumePathForRow(selectedTableRow_).value_or("");
   allocateAllArrays();
-}
-
-void AppDelegate::resetMethodChoice() {
-  Controls& controls = ports_.controls;
-  controls.turnOn(Control::butFastZeroWipe);
-  for (const Control button : kButtonOrder) {
-    if (button != Control::butFastZeroWipe) controls.turnOff(button);
-  }
-  // The first three are set twice: others depend on the sequence of this step.
-  controls.turnOn(Control::butFastZeroWipe);
-  controls.turnOff(Control::butDOD5220);
-  controls.turnOff(Control::butRandomWipe);
-  choice_.numPassSelected = 1;
-  choice_.eraseMethodSelected = 0;
 }
 
 void AppDelegate::back() {

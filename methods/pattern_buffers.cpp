@@ -22,41 +22,6 @@ std::unique_ptr<const PatternBuffers::Block> filledWith(RandomSource& random) {
   return block;
 }
 
-Pattern byParity(std::int32_t pass, Pattern odd, Pattern even) {
-  return pass % 2 != 0 ? odd : even;
-}
-
-// 32 is no slip: that pass is one of zeros.
-bool isRandomGutmannPass(std::int32_t pass) {
-  return (pass >= 0 && pass <= 3) || pass == 31 || pass == 33 || pass == 34;
-}
-
-Pattern firstOfThree(std::int32_t pass, Pattern first, Pattern second, Pattern third) {
-  switch (pass) {
-    case 0:
-      return first;
-    case 1:
-      return second;
-    case 2:
-      return third;
-    default:
-      return Pattern::none;
-  }
-}
-
-Pattern withDodPasses(std::int32_t pass) {
-  switch (pass) {
-    case 35:
-      return Pattern::x55;
-    case 36:
-      return Pattern::xAA;
-    case 37:
-      return Pattern::random;
-    default:
-      return byParity(pass, Pattern::xFF, Pattern::zeros);
-  }
-}
-
 }  // namespace
 
 void PatternBuffers::create(RandomSource& random) {
@@ -66,31 +31,6 @@ void PatternBuffers::create(RandomSource& random) {
   buffAA = filledWith(0xAA);
   buffFF = filledWith(0xFF);
   buffRND = filledWith(random);
-}
-
-Pattern plannedPattern(std::int32_t method, std::int32_t pass) {
-  switch (method) {
-    case 0:
-      return Pattern::zeros;
-    case 1:
-      return Pattern::random;
-    case 2:
-      return firstOfThree(pass, Pattern::x55, Pattern::xAA, Pattern::random);
-    case 3:
-      return firstOfThree(pass, Pattern::zeros, Pattern::xFF, Pattern::random);
-    case 4:
-      return pass == 6 ? Pattern::random : byParity(pass, Pattern::xFF, Pattern::zeros);
-    case 5:  // ends with 0xAA where its neighbours end with random data
-      return pass == 6 ? Pattern::xAA : byParity(pass, Pattern::xFF, Pattern::zeros);
-    case 6:
-      return pass == 6 ? Pattern::random : byParity(pass, Pattern::xAA, Pattern::x56);
-    case 7:
-      return isRandomGutmannPass(pass) ? Pattern::random : byParity(pass, Pattern::xFF, Pattern::zeros);
-    case 8:
-      return isRandomGutmannPass(pass) ? Pattern::random : withDodPasses(pass);
-    default:
-      return Pattern::none;
-  }
 }
 
 const std::uint8_t* bufferOf(const PatternBuffers& buffers, Pattern pattern) {

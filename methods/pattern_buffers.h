@@ -30,10 +30,6 @@ struct PatternBuffers {
 /// Which of the six buffers a pass writes.
 enum class Pattern { none, zeros, x55, x56, xAA, xFF, random };
 
-/// The pass plan: the pattern of zero-based pass `pass` of erase method `method`; `none` where the plan has no pattern.
-/// Pure. Passes beyond a method's count are planned too, but never written.
-Pattern plannedPattern(std::int32_t method, std::int32_t pass);
-
 /// The buffer of a pattern; null for `none`, and before `create`.
 const std::uint8_t* bufferOf(const PatternBuffers& buffers, Pattern pattern);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -119,6 +120,10 @@ class Controls {
   /// State of a selection button.
   virtual void turnOn(Control button) = 0;
   virtual void turnOff(Control button) = 0;
+  /// Label and state of the row that a method without controls of its own name has on the method page, by its
+  /// zero-based number.
+  virtual void setMethodText(std::int32_t /*method*/, const std::string& /*text*/) {}
+  virtual void turnMethod(std::int32_t /*method*/, bool /*on*/) {}
   /// Draws the control now rather than at the next opportunity.
   virtual void redraw(Control control) = 0;
 

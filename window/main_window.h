@@ -2,7 +2,6 @@
 
 #include <QIcon>
 #include <QWidget>
-#include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
@@ -30,8 +29,6 @@ class VolumePage;
 class MainWindow : public QWidget {
   Q_OBJECT
  public:
-  static constexpr std::size_t kMethods = 9;
-
   MainWindow();
   ~MainWindow() override;
 
@@ -47,7 +44,7 @@ class MainWindow : public QWidget {
   std::function<void()> onFacebook;
   std::function<void()> onTwitter;
   std::function<void()> onGooglePlus;
-  std::function<void(int)> onMethod;                              ///< the slot's number, 0 to 8
+  std::function<void(int)> onMethod;                              ///< the slot's number, from 0
   std::function<void(std::vector<std::size_t>)> onTilesSelected;  ///< nothing in the list: the space beside the tiles
   std::function<void()> onTableSelectionChanged;
   std::function<void()> onCompletionPageOk;
@@ -61,7 +58,7 @@ class MainWindow : public QWidget {
   /// The texts that the controller does not set.
   void setTexts(const Localisation& localisation);
   void setSizeFormatter(std::function<std::string(std::uint64_t)> format);
-  void setPasses(const std::array<int, kMethods>& passes);
+  void setPasses(const std::vector<int>& passes);
   /// What the completion window and the completion page say.
   void setOutcome(const std::string& text, OutcomeKind kind);
 

@@ -92,7 +92,7 @@ void MainWindow::setSizeFormatter(std::function<std::string(std::uint64_t)> form
   formatSize_ = std::move(format);
 }
 
-void MainWindow::setPasses(const std::array<int, kMethods>& passes) {
+void MainWindow::setPasses(const std::vector<int>& passes) {
   ui_->methodPage->setPasses(passes);
 }
 

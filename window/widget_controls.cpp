@@ -148,6 +148,14 @@ void WidgetControls::turnOff(Control button) {
   if (auto* selection = as<SelectionButton>(button)) selection->setChecked(false);
 }
 
+void WidgetControls::setMethodText(std::int32_t method, const std::string& text) {
+  window_.methods().setLabel(static_cast<std::size_t>(method), asTitle(text));
+}
+
+void WidgetControls::turnMethod(std::int32_t method, bool on) {
+  window_.methods().turn(static_cast<std::size_t>(method), on);
+}
+
 void WidgetControls::redraw(Control control) {
   if (auto* widget = as<QWidget>(control)) widget->repaint();
 }

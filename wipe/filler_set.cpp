@@ -16,7 +16,7 @@ constexpr int kMostFailuresInARow = 16;
 }  // namespace
 
 std::uint64_t AppDelegate::getNumbOfFiles(const WipeRun& run) const {
-  return volumeOf(run).freeBytes() / scale_.fillerBytes;
+  return volumeOf(run).freeBytes() / fixed_.scale.fillerBytes;
 }
 
 void AppDelegate::createFile(WipeRun& run) {

@@ -32,11 +32,7 @@ bool survivesFlush(WipeRun& run, Error error) {
 class BlockWriter {
  public:
   BlockWriter(const AppDelegate& app, WipeRun& run, FillerFile& file)
-      : app_(app),
-        run_(run),
-        file_(file),
-        passes_(app.methodChoice().numPassSelected),
-        method_(app.methodChoice().eraseMethodSelected) {
+      : app_(app), run_(run), file_(file), passes_(run.method.passes), method_(run.method.number) {
     run.counters.passes = passes_;
   }
 
@@ -80,7 +76,7 @@ class BlockWriter {
   const AppDelegate& app_;
   WipeRun& run_;
   FillerFile& file_;
-  const std::int32_t passes_;  // read once for each file
+  const std::int32_t passes_;
   const std::int32_t method_;
   const std::uint8_t* current_ = nullptr;
   bool goesOn_ = true;
@@ -104,6 +100,8 @@ FillEnd AppDelegate::fillFilePath(WipeRun& run, const std::string& path, std::ui
   }
 
   const BlockPlan plan = blockPlan(size);
+  // The one place where a run takes its method: a change during a file takes effect with the next one.
+  run.method = {choice_.eraseMethodSelected, choice_.numPassSelected};
   BlockWriter writer(*this, run, *file);
   std::uint64_t block = 0;
   bool writeFailed = false;

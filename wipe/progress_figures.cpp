@@ -43,7 +43,7 @@ std::string AppDelegate::getElapsedTimeForInterval(double seconds) {
 }
 
 std::string AppDelegate::getElapsedData(std::uint64_t finishedFiles) const {
-  return getFormattedStringForSize(finishedFiles * scale_.fillerBytes);
+  return getFormattedStringForSize(finishedFiles * fixed_.scale.fillerBytes);
 }
 
 void AppDelegate::setElapsedTime(WipeRun& run) {

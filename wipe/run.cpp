@@ -46,7 +46,7 @@ void AppDelegate::proceed() {
   run_->volume = selection();
   run_->abortErasing = 0;
   shell_.wipingProcessOn = 1;
-  ports_.clock.sleep(scale_.pauseBeforeStart);
+  ports_.clock.sleep(fixed_.scale.pauseBeforeStart);
   run_->terminateThread = 0;
   startRunThreads();
 }
@@ -131,7 +131,7 @@ void AppDelegate::startPhaseOne(WipeRun& run) {
   for (int percent = 0; percent <= 100; ++percent) {
     run.screen.apply([percent](Controls& controls) { controls.setProgress(percent); });
   }
-  ports_.clock.sleep(scale_.pauseAfterLayout);
+  ports_.clock.sleep(fixed_.scale.pauseAfterLayout);
   run.screen.apply([](Controls& controls) { controls.setProgress(0); });
   startPhaseTwo(run);
 }
@@ -175,7 +175,7 @@ void AppDelegate::wipeFreeSpace(WipeRun& run) {
       return;
     }
     directory->readAttributes(path);
-    const FillEnd end = fillFilePath(run, path, scale_.fillerBytes);
+    const FillEnd end = fillFilePath(run, path, fixed_.scale.fillerBytes);
     run.screen.apply(
         [text = getElapsedData(i)](Controls& controls) { controls.setText(Control::tfElapsedData, text); });
     if (run.screen.mainWindowVisible()) {

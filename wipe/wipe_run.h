@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "methods/method_choice.h"
 #include "ports/clock.h"
 #include "ports/error.h"
 #include "volumes/volume_table.h"
@@ -57,6 +58,7 @@ struct WipeRun {
 
   std::uint64_t numTempFiles = 0;           ///< whole filler files that the free space holds
   std::vector<std::string> filePathsArray;  ///< the filler file set, in creation order
+  ChosenMethod method;                      ///< of the file that is being written, or was last
   VolumeSelection volume;                   ///< the volume as it was listed when the run started; unset before
   std::string elapsed_time;                 ///< the clock thread's last text; kept for its name
   /// Set before the run's threads start, and never again: whoever tells the run's time counts from here.

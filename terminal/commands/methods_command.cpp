@@ -4,8 +4,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include "methods/method_catalogue.h"
-#include "methods/pattern_buffers.h"
 #include "terminal/commands/command_list.h"
 #include "terminal/json_text.h"
 #include "terminal/output.h"
@@ -57,26 +55,25 @@ std::vector<std::string> shortRow(const EraseMethod& method) {
 
 }  // namespace
 
-std::optional<std::int32_t> methodNamed(const std::string& text) {
-  if (const auto number = numberUpTo(kMethodCount, text)) return static_cast<std::int32_t>(*number) - 1;
-  for (const EraseMethod& method : kMethodCatalogue) {
+std::optional<std::int32_t> methodNamed(const std::string& text, MethodCatalogue methods) {
+  if (const auto number = numberUpTo(methods.size(), text)) return static_cast<std::int32_t>(*number) - 1;
+  for (const EraseMethod& method : methods) {
     if (equalIgnoringCase(method.word, text)) return method.number;
   }
   return std::nullopt;
 }
 
-std::string validMethods() {
+std::string validMethods(MethodCatalogue methods) {
   std::string words;
-  for (const EraseMethod& method : kMethodCatalogue) {
+  for (const EraseMethod& method : methods) {
     words += (words.empty() ? "" : ", ") + std::to_string(method.number + 1) + " (" + method.word + ")";
   }
   return words;
 }
 
-std::vector<std::string> writtenSequence(std::int32_t method) {
+std::vector<std::string> writtenSequence(const EraseMethod& method) {
   Sequence sequence;
-  const std::int32_t passes = kMethodCatalogue.at(static_cast<std::size_t>(method)).passes;
-  for (std::int32_t pass = 0; pass < passes; ++pass) sequence.emplace_back(nameOf(plannedPattern(method, pass)));
+  for (std::int32_t pass = 0; pass < method.passes; ++pass) sequence.emplace_back(nameOf(method.plan(pass)));
   return sequence;
 }
 
@@ -96,21 +93,21 @@ std::string shortened(const std::vector<std::string>& sequence) {
   return text.empty() ? "nothing" : text;
 }
 
-std::string methodsTable() {
+std::string methodsTable(MethodCatalogue methods) {
   std::vector<std::vector<std::string>> rows;
-  for (const EraseMethod& method : kMethodCatalogue) {
+  for (const EraseMethod& method : methods) {
     rows.push_back(shortRow(method));
-    rows.back().push_back(shortened(writtenSequence(method.number)));
+    rows.back().push_back(shortened(writtenSequence(method)));
   }
   std::vector<Column> columns = shortColumns();
   columns.push_back({"Writes"});
   return table(columns, rows);
 }
 
-std::string shortMethodsTable() {
+std::string shortMethodsTable(MethodCatalogue methods) {
   std::vector<std::vector<std::string>> rows;
   std::string warnings;
-  for (const EraseMethod& method : kMethodCatalogue) {
+  for (const EraseMethod& method : methods) {
     rows.push_back(shortRow(method));
     if (method.passes != 0) continue;
     warnings += "Method " + std::to_string(method.number + 1) + " writes nothing: what was deleted stays readable.\n";
@@ -118,20 +115,20 @@ std::string shortMethodsTable() {
   return table(shortColumns(), rows) + warnings;
 }
 
-std::string methodsJson() {
+std::string methodsJson(MethodCatalogue methods) {
   auto list = nlohmann::ordered_json::array();
-  for (const EraseMethod& method : kMethodCatalogue) {
+  for (const EraseMethod& method : methods) {
     list.push_back({{"number", method.number + 1},
                     {"word", method.word},
                     {"label", method.labelKey},
                     {"passes", method.passes},
-                    {"sequence", writtenSequence(method.number)}});
+                    {"sequence", writtenSequence(method)}});
   }
   return jsonText(list);
 }
 
 ExitCode methodsCommand(const ListRequest& request) {
-  Output(STDOUT_FILENO).write(request.json ? methodsJson() + '\n' : methodsTable());
+  Output(STDOUT_FILENO).write(request.json ? methodsJson(kMethodCatalogue) + '\n' : methodsTable(kMethodCatalogue));
   return ExitCode::finished;
 }
 

@@ -140,10 +140,10 @@ PlacedOrder placeOrder(const NewOrder& order, OrderTags& tags, const RunLookup& 
 }
 
 ExitCode orderCommand(const OrderRequest& request) {
-  const auto method = methodNamed(request.method);
+  const auto method = methodNamed(request.method, orderableMethods());
   if (!method) {
-    return give({ExitCode::wrongUsage,
-                 "There is no method \"" + printable(request.method) + "\"; choose one of " + validMethods()});
+    return give({ExitCode::wrongUsage, "There is no method \"" + printable(request.method) + "\"; choose one of " +
+                                           validMethods(orderableMethods())});
   }
   return OrderCommand(request, *method).run();
 }

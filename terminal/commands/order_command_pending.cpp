@@ -48,7 +48,7 @@ std::int32_t orderedMethod(const PendingOrder& order) {
 }
 
 std::string numberAndWord(std::int32_t method) {
-  const EraseMethod& entry = kMethodCatalogue.at(static_cast<std::size_t>(method));
+  const EraseMethod& entry = methodAt(kMethodCatalogue, method);
   return "method " + std::to_string(entry.number + 1) + " (" + entry.word + ")";
 }
 

@@ -35,7 +35,7 @@ class WipeCommand {
         isPersonThere_(isPersonThere),
         method_(method),
         ports_(dialogueOutput(request, isPersonThere), request.yes ? Answering::defaultButtons : Answering::person),
-        app_(ports_.ports(), scale) {
+        app_(ports_.ports(), {.scale = scale}) {
     report_.volume = request.volume.value_or("");
   }
 
@@ -82,7 +82,7 @@ class WipeCommand {
     if (error.code == ErrorCode::notPermitted) return refuseForWantOfRights(error);
     if (error.failed()) return refuse(refusalLine(report_, error));
     if (!method_ && isPersonThere_ && !request_.yes) {
-      method_ = askForMethod(ports_.dialogue, ports_.input);
+      method_ = askForMethod(ports_.dialogue, ports_.input, app_.methods());
       if (!method_) return cancel();
     }
     return true;
@@ -105,16 +105,17 @@ class WipeCommand {
     if (ports_.controls.page() != Page::method) return refuse(refusalLine(report_, {ErrorCode::readOnly, "", "", ""}));
     if (method_) app_.chooseMethod(*method_);
     report_.method = app_.methodChoice().eraseMethodSelected;
+    report_.methodWord = methodAt(app_.methods(), *report_.method).word;
     report_.passes = app_.methodChoice().numPassSelected;
     return true;
   }
 
   void announce() {
-    const auto& method = kMethodCatalogue.at(static_cast<std::size_t>(*report_.method));
+    const EraseMethod& method = methodAt(app_.methods(), *report_.method);
     ports_.dialogue.line("Free space of " + printable(report_.volume) + " (" + printable(*report_.mountPath) +
                          "): " + AppDelegate::getFormattedStringForSize(report_.freeBytes) + ". Method " +
                          std::to_string(method.number + 1) + ": " + withSingleBlanks(method.labelKey) + ", writes " +
-                         shortened(writtenSequence(method.number)) + ".");
+                         shortened(writtenSequence(method)) + ".");
   }
 
   void conclude(const WipeCommandSession& session) {
@@ -181,9 +182,10 @@ ExitCode wrongUsage(const std::string& line) {
 ExitCode wipeCommand(const WipeRequest& request, const RunScale& scale) {
   std::optional<std::int32_t> method;
   if (request.method) {
-    method = methodNamed(*request.method);
+    method = methodNamed(*request.method, kMethodCatalogue);
     if (!method) {
-      return wrongUsage("There is no method \"" + printable(*request.method) + "\"; choose one of " + validMethods());
+      return wrongUsage("There is no method \"" + printable(*request.method) + "\"; choose one of " +
+                        validMethods(kMethodCatalogue));
     }
   }
   const bool isPersonThere = ::isatty(STDIN_FILENO) == 1;

@@ -2,7 +2,6 @@
 
 #include "app/app_delegate.h"
 #include "app/filled_in.h"
-#include "methods/method_catalogue.h"
 #include "platform/linux/process/administrator.h"
 #include "terminal/commands/command_words.h"
 #include "terminal/json_text.h"
@@ -104,8 +103,7 @@ std::string closingLine(const WipeReport& report) {
   if (grade == RunGrade::nothing) return kNothingOverwritten;
   const std::string begin =
       grade == RunGrade::partial ? "Partial: " + overwrittenText(report.account) : "Finished: " + erased;
-  const char* word = kMethodCatalogue.at(static_cast<std::size_t>(report.method.value_or(0))).word;
-  return begin + " of free space erased on " + volumeText(report) + " with method " + word + ", " +
+  return begin + " of free space erased on " + volumeText(report) + " with method " + report.methodWord + ", " +
          std::to_string(report.passes) + (report.passes == 1 ? " pass" : " passes") + ", in " + time + ".";
 }
 

@@ -14,7 +14,8 @@ namespace calvero {
 struct WipeReport {
   std::string volume;  ///< as it was typed, where no volume was found for it
   std::optional<std::string> mountPath;
-  std::optional<std::int32_t> method;  ///< 0 to 8
+  std::optional<std::int32_t> method;  ///< zero-based
+  std::string methodWord;
   std::int32_t passes = 0;
   std::uint64_t freeBytes = 0;  ///< as listed before the run
   RunAccount account;

@@ -26,16 +26,16 @@ std::optional<std::size_t> askForVolume(const Output& output, LineInput& input,
   return std::nullopt;
 }
 
-std::optional<std::int32_t> askForMethod(const Output& output, LineInput& input) {
+std::optional<std::int32_t> askForMethod(const Output& output, LineInput& input, MethodCatalogue methods) {
   constexpr std::int32_t kDefaultMethod = 0;
-  output.write(shortMethodsTable());
+  output.write(shortMethodsTable(methods));
   while (true) {
     output.write("Method (number or word, Enter for 1): ");
     const auto line = input.readLine();
     if (!line) break;
     const std::string typed = withSingleBlanks(*line);
     if (typed.empty()) return kDefaultMethod;
-    if (const auto method = methodNamed(typed)) return method;
+    if (const auto method = methodNamed(typed, methods)) return method;
     output.line("Please type a number or a word of the list.");
   }
   output.line("");

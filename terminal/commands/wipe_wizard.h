@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "methods/method_catalogue.h"
 #include "ports/mounted_volumes.h"
 
 namespace calvero {
@@ -16,8 +17,7 @@ class Output;
 std::optional<std::size_t> askForVolume(const Output& output, LineInput& input,
                                         const std::vector<MountedVolume>& volumes);
 
-/// Offers the nine methods until one is chosen, the first one for Enter alone; nothing at the end of input or on a
-/// signal.
-std::optional<std::int32_t> askForMethod(const Output& output, LineInput& input);
+/// Offers the methods until one is chosen, the first one for Enter alone; nothing at the end of input or on a signal.
+std::optional<std::int32_t> askForMethod(const Output& output, LineInput& input, MethodCatalogue methods);
 
 }  // namespace calvero

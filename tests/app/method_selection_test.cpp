@@ -1,8 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 
+#include "app/method_controls.h"
 #include "methods/method_catalogue.h"
 #include "ports/control_names.h"
 #include "tests/fakes/world.h"
@@ -42,6 +44,12 @@ const std::array<Row, 9> kRows{{
 const std::array<const char*, 9> kOrderOfButtons{"butFastZeroWipe",  "butRandomWipe",      "butDOD5220",
                                                  "butNATO",          "butFAST_ZERO_WRITE", "butNAVSO",
                                                  "butPETER_GUTTMAN", "butVSITR",           "butNINTH_ALGO"};
+
+Control controlNamed(const std::string& name) {
+  const auto named = std::find_if(kNamedControls.begin(), kNamedControls.end(),
+                                  [&](const NamedControl& each) { return each.name == name; });
+  return named->control;
+}
 
 Steps buttonSteps(const std::string& own) {
   Steps steps;
@@ -111,7 +119,7 @@ TEST_F(MethodSelection, PressedTwiceLeavesTheSameStateAsPressedOnce) {
   app.fifth_NATO();
   EXPECT_EQ(method(), 4);
   EXPECT_EQ(passes(), 7);
-  for (const EraseMethod& row : kMethodCatalogue) EXPECT_EQ(world.controls.isOn(row.button), row.number == 4);
+  for (const Row& row : kRows) EXPECT_EQ(world.controls.isOn(controlNamed(row.button)), row.number == 4);
 }
 
 TEST_F(MethodSelection, IsForgottenByGoingBackAndForward) {
@@ -123,7 +131,7 @@ TEST_F(MethodSelection, IsForgottenByGoingBackAndForward) {
   app.next();
   EXPECT_EQ(method(), 0);
   EXPECT_EQ(passes(), 1);
-  for (const EraseMethod& row : kMethodCatalogue) EXPECT_EQ(world.controls.isOn(row.button), row.number == 0);
+  for (const Row& row : kRows) EXPECT_EQ(world.controls.isOn(controlNamed(row.button)), row.number == 0);
 }
 
 TEST_F(MethodSelection, WritesNothingIntoTheFillerFilesWithMethod6) {
@@ -152,10 +160,12 @@ TEST_F(MethodSelection, SetsTheTextsOfTheMethodPageThroughTheLocalisationTable) 
 
 TEST(MethodCatalogue, HoldsTheNineMethodsWithTheirControlsLabelsAndPasses) {
   for (const Row& row : kRows) {
-    const EraseMethod& method = kMethodCatalogue.at(static_cast<std::size_t>(row.number));
+    const EraseMethod& method = methodAt(kMethodCatalogue, row.number);
     EXPECT_EQ(method.number, row.number);
-    EXPECT_STREQ(nameOf(method.button), row.button);
-    EXPECT_EQ(method.label, row.label);
+    const MethodControls* controls = controlsOf(row.number);
+    ASSERT_NE(controls, nullptr);
+    EXPECT_STREQ(nameOf(controls->button), row.button);
+    EXPECT_EQ(controls->label, row.label);
     EXPECT_STREQ(method.labelKey, row.labelKey);
     EXPECT_EQ(method.passes, row.passes);
   }

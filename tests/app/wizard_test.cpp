@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "app/method_controls.h"
 #include "methods/method_catalogue.h"
 #include "tests/fakes/world.h"
 
@@ -81,7 +82,7 @@ TEST_F(Wizard, ReturnsToMethod0WithOnePassAtEveryVisitOfTheMethodPage) {
   EXPECT_EQ(app.methodChoice().eraseMethodSelected, 0);
   EXPECT_EQ(app.methodChoice().numPassSelected, 1);
   for (const EraseMethod& method : kMethodCatalogue) {
-    EXPECT_EQ(world.controls.isOn(method.button), method.number == 0) << method.number;
+    EXPECT_EQ(world.controls.isOn(controlsOf(method.number)->button), method.number == 0) << method.number;
   }
 }
 

@@ -75,6 +75,14 @@ void RecordingControls::turnOff(Control button) {
   remember(on_, button, false, std::string("turnOff ") + nameOf(button));
 }
 
+void RecordingControls::setMethodText(std::int32_t method, const std::string& text) {
+  journal_.add("setMethodText " + std::to_string(method) + ' ' + quoted(text));
+}
+
+void RecordingControls::turnMethod(std::int32_t method, bool on) {
+  journal_.add("turnMethod " + std::to_string(method) + (on ? " on" : " off"));
+}
+
 void RecordingControls::redraw(Control control) {
   journal_.add(std::string("redraw ") + nameOf(control));
 }

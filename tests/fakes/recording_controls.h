@@ -39,6 +39,8 @@ class RecordingControls : public Controls {
   void hide(Control control) override;
   void turnOn(Control button) override;
   void turnOff(Control button) override;
+  void setMethodText(std::int32_t method, const std::string& text) override;
+  void turnMethod(std::int32_t method, bool on) override;
   void redraw(Control control) override;
   void selectPage(Page page) override;
   void reloadTable() override;

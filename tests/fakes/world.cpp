@@ -26,24 +26,24 @@ void World::order(const std::string& driveName, const std::string& method) {
 }
 
 AppDelegate& World::create() {
-  app_ = std::make_unique<AppDelegate>(Ports{.alerts = alerts,
-                                             .clock = clock,
-                                             .controls = controls,
-                                             .diskLookup = volumes,
-                                             .eventLoop = loop,
-                                             .files = files,
-                                             .informationFile = desktop,
-                                             .localisation = localisation,
-                                             .mountedVolumes = volumes,
-                                             .popUpWindow = popUp,
-                                             .random = random,
-                                             .suiteWeb = desktop,
-                                             .log = log,
-                                             .systemNotifications = systemNotifications,
-                                             .tagStore = tags,
-                                             .threads = threads,
-                                             .workspace = desktop},
-                                       scale);
+  const Ports ports{.alerts = alerts,
+                    .clock = clock,
+                    .controls = controls,
+                    .diskLookup = volumes,
+                    .eventLoop = loop,
+                    .files = files,
+                    .informationFile = desktop,
+                    .localisation = localisation,
+                    .mountedVolumes = volumes,
+                    .popUpWindow = popUp,
+                    .random = random,
+                    .suiteWeb = desktop,
+                    .log = log,
+                    .systemNotifications = systemNotifications,
+                    .tagStore = tags,
+                    .threads = threads,
+                    .workspace = desktop};
+  app_ = std::make_unique<AppDelegate>(ports, fixed);
   loop.whenServed([this] { threads.runWaiting("calvero-cancel"); });
   return *app_;
 }

@@ -34,8 +34,6 @@ class World {
   /// The suite orders a wipe.
   void order(const std::string& driveName, const std::string& method);
 
-  RunScale scale;
-
   // --- The program ---
 
   /// Makes the controller; no window is used yet.
@@ -74,6 +72,7 @@ class World {
   FakeSystemNotifications systemNotifications{journal};
   FakeTagStore tags{journal};
   FakeThreads threads{journal};
+  FixedValues fixed;  ///< set before the launch
 
  private:
   std::size_t firstThreadOfRun_ = 0;

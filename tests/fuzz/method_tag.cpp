@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 #include "methods/method_catalogue.h"
@@ -17,7 +18,7 @@ std::int32_t asTheLibraryReads(const std::string& text) {
 void readMethod(const std::string& text) {
   require(integerValue(text) == asTheLibraryReads(text), "a number is read as strtol reads it, within 32 bits");
   const auto method = methodFromTag(text);
-  require(!method || (*method >= 0 && *method < kMethodCount), "a method is one of the catalogue");
+  require(!method || (*method >= 0 && *method < std::ssize(orderableMethods())), "a method is one of the catalogue");
 }
 
 }  // namespace

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <stdexcept>
+
+#include "tests/ten_methods.h"
 
 namespace calvero {
 namespace {
@@ -21,6 +24,17 @@ TEST(MethodFromTag, IsNothingOutside1To9) {
        {"0", "10", "-1", "", "abc", "x4", "- 4", "99999999999999999999", "4294967297", "-4294967295"}) {
     EXPECT_EQ(methodFromTag(text), std::nullopt) << text;
   }
+}
+
+TEST(MethodAt, RefusesANumberThatIsNoneOfTheCatalogue) {
+  EXPECT_EQ(methodAt(kMethodCatalogue, 8).number, 8);
+  EXPECT_THROW(methodAt(kMethodCatalogue, 9), std::out_of_range);
+  EXPECT_THROW(methodAt(kMethodCatalogue, -1), std::out_of_range);
+}
+
+TEST(OrderableMethods, AreNoMoreThanNineAndNoMoreThanThereAre) {
+  EXPECT_EQ(orderableMethods(testing::tenMethods()).size(), 9U);
+  EXPECT_EQ(orderableMethods(kMethodCatalogue.first(2)).size(), 2U);
 }
 
 TEST(IntegerValue, StopsAtTheNearest32BitNumber) {

@@ -5,6 +5,7 @@
 
 #include "methods/method_catalogue.h"
 #include "methods/pattern_buffers.h"
+#include "tests/ten_methods.h"
 
 namespace calvero {
 namespace {
@@ -112,16 +113,23 @@ TEST(PassPlan, EndsMethod8WithThreePassesOfItsOwnAndPlansOnByParity) {
   EXPECT_EQ(passes(8, 35, 39), "5AR0F");
 }
 
+TEST(PassPlan, IsTheOneOfTheMethodsRow) {
+  EXPECT_EQ(plannedPattern(9, 0, testing::tenMethods()), Pattern::xAA);
+  EXPECT_EQ(plannedPattern(9, 1, testing::tenMethods()), Pattern::random);
+  EXPECT_EQ(plannedPattern(10, 0, testing::tenMethods()), Pattern::none);
+}
+
 TEST(PassPlan, WritesTheKnownSequenceOfEachMethodWithItsPassCount) {
-  const std::array<const char*, kMethodCount> written{"0",
-                                                      "R",
-                                                      "5AR",
-                                                      "0",
-                                                      "0F0F0FR",
-                                                      "0F0F0FA",
-                                                      "",
-                                                      "RRRR0F0F0F0F0F0F0F0F0F0F0F0F0F0R0RR",
-                                                      "RRRR0F0F0F0F0F0F0F0F0F0F0F0F0F0R0RR5AR"};
+  const std::array<const char*, 9> written{"0",
+                                           "R",
+                                           "5AR",
+                                           "0",
+                                           "0F0F0FR",
+                                           "0F0F0FA",
+                                           "",
+                                           "RRRR0F0F0F0F0F0F0F0F0F0F0F0F0F0R0RR",
+                                           "RRRR0F0F0F0F0F0F0F0F0F0F0F0F0F0R0RR5AR"};
+  ASSERT_EQ(kMethodCatalogue.size(), written.size());
   for (const EraseMethod& method : kMethodCatalogue) {
     EXPECT_EQ(passes(method.number, 0, method.passes - 1), written.at(static_cast<std::size_t>(method.number)))
         << "method " << method.number;

@@ -58,12 +58,11 @@ def lookedUpKeys(source):
 
 
 def catalogueKeys(source):
-    """The labelKey column: it follows the column with the label's control."""
+    """The labelKey column: it follows the column with the method's word, and no other text follows one."""
     found = tokens(source)
-    return [after[1]
-            for control, comma, after in zip(found, found[1:], found[2:])
-            if control[0] == "word" and re.fullmatch(r"algorithm_\d+", control[1])
-            and comma == ("mark", ",") and after[0] == "text"]
+    return [label[1]
+            for word, comma, label in zip(found, found[1:], found[2:])
+            if word[0] == label[0] == "text" and comma == ("mark", ",")]
 
 
 def sourceKeys(root):

@@ -46,8 +46,9 @@ class LookedUpKeys(unittest.TestCase):
 
 class CatalogueKeys(unittest.TestCase):
     def testOnlyTheLabelColumnIsTaken(self):
-        rows = """{0, "zero", Control::butX, Control::algorithm_1, "Fast " "Zero ", 1},
-                  {1, "random", Control::butY, Control::algorithm_12, "Random", 1},"""
+        rows = """#include "methods/method_catalogue.h"
+                  {0, "zero", "Fast " "Zero ", 1, always0x00},
+                  {1, "random", "Random", 1, [](int pass) { return alwaysRandom(pass); }},"""
         self.assertEqual(catalogueKeys(rows), ["Fast Zero ", "Random"])
 
 
@@ -60,7 +61,7 @@ class SourceKeys(unittest.TestCase):
                 (root / folder / "deep" / "source.cpp").write_text(f'localised("{number}"); localised("");')
                 (root / folder / "header.h").write_text(f'localised("{number}h");')
                 (root / folder / "README.md").write_text('localised("no")')
-            (root / "methods" / "method_catalogue.cpp").write_text('{Control::algorithm_1, "label"}')
+            (root / "methods" / "method_catalogue.cpp").write_text('{0, "word", "label", 1, plan}')
             numbers = [str(number) for number in range(len(FOLDERS))]
             self.assertEqual(sourceKeys(root), {*numbers, *(number + "h" for number in numbers), "label"})
 

@@ -24,6 +24,7 @@ WipeReport reportOf(RunOutcome outcome, std::uint64_t faults = 0, ErrorCode code
   report.volume = "stick";
   report.mountPath = "/media/stick";
   report.method = 2;
+  report.methodWord = "dod";
   report.passes = 3;
   report.freeBytes = 2'000'000'000;
   report.account = {

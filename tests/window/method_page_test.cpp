@@ -3,8 +3,10 @@
 #include <QAbstractButton>
 #include <QLabel>
 
+#include "tests/gallery/text_fit.h"
 #include "tests/window/window_fixture.h"
 #include "window/label_button.h"
+#include "window/selection_button.h"
 
 namespace calvero::testing {
 namespace {
@@ -136,6 +138,52 @@ TEST_F(MethodPageTest, DescribesEachMethodByTheCaptionAboveItAndItsPasses) {
     EXPECT_TRUE(button->accessibleDescription().startsWith(above->text() + ", " + passes))
         << kButtons[i] << ": " << button->accessibleDescription().toStdString();
   }
+}
+
+TEST_F(MethodPageTest, ShowsAFurtherMethodBelowTheLastOfItsTier) {
+  window.setPasses({1, 1, 3, 1, 7, 7, 0, 35, 38, 2});
+  controls.setMethodText(9, "Tenth & last ");
+  controls.setText(Control::medium, "MEDIUM");
+  showPage();
+  EXPECT_EQ(find<LabelButton>("algorithm_10")->label(), "Tenth & last");
+  EXPECT_EQ(find<QLabel>("passes_10")->text(), "Passes: 2");
+  EXPECT_EQ(find("butMethod_10")->accessibleName(), "Tenth & last, Passes: 2");
+  EXPECT_EQ(find("butMethod_10")->accessibleDescription(), "MEDIUM, Passes: 2");
+  EXPECT_LT(find("butVSITR")->y(), find("butMethod_10")->y());
+  EXPECT_LT(find("butMethod_10")->y(), find("lineAbove_high")->y());
+  EXPECT_EQ(find("butVSITR")->x(), find("butMethod_10")->x());
+  EXPECT_EQ(find("algorithm_6")->x(), find("algorithm_10")->x());
+  EXPECT_EQ(find("passes_6")->geometry().right(), find("passes_10")->geometry().right());
+  EXPECT_THAT(misfits(window), ElementsAre());
+}
+
+TEST_F(MethodPageTest, PlacesAFurtherMethodOfEachTierAtItsEnd) {
+  window.setPasses({1, 1, 3, 1, 7, 7, 0, 35, 38, 8, 1});
+  showPage();
+  EXPECT_LT(find("butNINTH_ALGO")->y(), find("butMethod_10")->y());
+  EXPECT_LT(find("butFAST_ZERO_WRITE")->y(), find("butMethod_11")->y());
+  EXPECT_LT(find("butMethod_11")->y(), find("lineAbove_medium")->y());
+  EXPECT_EQ(find<SelectionButton>("butMethod_10")->focusPolicy(), Qt::ClickFocus) << "as of each that is not on";
+}
+
+TEST_F(MethodPageTest, ChoosesAFurtherMethodByItsButtonItsLabelAndTheKeys) {
+  window.setPasses({1, 1, 3, 1, 7, 7, 0, 35, 38, 2});
+  showPage();
+  press("butMethod_10");
+  press("algorithm_10");
+  EXPECT_THAT(told, ElementsAre(9, 9));
+  controls.turnMethod(9, true);
+  EXPECT_TRUE(find<SelectionButton>("butMethod_10")->isChecked());
+  find("proceedBtn")->setFocus();
+  type(Qt::Key_Backtab);
+  EXPECT_EQ(focused(), "butMethod_10");
+  told.clear();
+  type(Qt::Key_Up);
+  type(Qt::Key_Down);
+  type(Qt::Key_Down);
+  EXPECT_THAT(told, ElementsAre(5, 9, 7));
+  controls.turnMethod(9, false);
+  EXPECT_FALSE(find<SelectionButton>("butMethod_10")->isChecked());
 }
 
 TEST_F(MethodPageTest, CutsNoLabelHoweverLongALanguageMakesIt) {

@@ -62,7 +62,7 @@ class WizardFixture : public ::testing::Test {
 
   /// Launches the program, does what `user` does and ends it.
   void use(const std::function<void()>& user) {
-    app = std::make_unique<AppDelegate>(machineOf());
+    app = std::make_unique<AppDelegate>(machineOf(), fixed);
     session = std::make_unique<WizardSession>(ports, *app);
     ports.loop.startTimer(longestUse, TimerKind::oneShot, [this] {
       ADD_FAILURE() << "the program never ended";
@@ -138,6 +138,7 @@ class WizardFixture : public ::testing::Test {
   FakeSystemNotifications systemNotifications{journal};
   HurriedClock clock;
   std::chrono::seconds longestUse{100};
+  FixedValues fixed;
   Clock* usedClock = &clock;
   Files* usedFiles = &files;
   MountedVolumes* usedVolumes = &volumes;

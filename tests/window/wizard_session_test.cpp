@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QTableView>
 
+#include "tests/ten_methods.h"
 #include "tests/window/wizard_fixture.h"
 #include "window/item_view.h"
 #include "window/tile_grid.h"
@@ -312,6 +313,25 @@ TEST_F(WindowSession, ShowsThatPhaseOneGoesOnWithoutAFigureAlsoAfterAFinishedRun
     }
   });
   EXPECT_THAT(inPhaseOne, ElementsAre(0, 0));
+}
+
+TEST_F(WindowSession, ErasesWithAMethodThatTheLayoutHasNoControlsFor) {
+  mountVolume("DATA");
+  fixed.methods = testing::tenMethods();
+  use([this] {
+    press("buttonNext");
+    press("algorithm_10");
+    EXPECT_TRUE(named<QAbstractButton>("butMethod_10")->isChecked());
+    EXPECT_EQ(named<QAbstractButton>("algorithm_10")->text(), "Twice over");
+    EXPECT_EQ(text("passes_10"), "Passes: 2");
+    answerNextAlert(kYes, [this] { answerNextAlert(); });  // then the notice
+    press("proceedBtn");
+    ASSERT_TRUE(comesTrue([this] { return completed().isVisible(); }));
+  });
+  const testing::Steps written = journal.only({"pwrite"});
+  ASSERT_GE(written.size(), 2U);
+  EXPECT_EQ(written[0], "pwrite .temp0 32768@0 0xAA");
+  EXPECT_EQ(written[1], "pwrite .temp0 32768@0 random");
 }
 
 TEST_F(WindowSession, LeavesTheWindowHiddenInRemoteMode) {

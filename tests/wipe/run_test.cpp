@@ -55,9 +55,9 @@ TEST_F(Proceed, AsksGivesTheNoticeAndStartsBothThreadsInOrder) {
 }
 
 TEST_F(Proceed, TakesItsFillerSizeAndPausesFromTheScaleThatIsHandedIn) {
-  world.scale = {.fillerBytes = 100'000'000,
-                 .pauseBeforeStart = std::chrono::seconds(4),
-                 .pauseAfterLayout = std::chrono::seconds(5)};
+  world.fixed.scale = {.fillerBytes = 100'000'000,
+                       .pauseBeforeStart = std::chrono::seconds(4),
+                       .pauseAfterLayout = std::chrono::seconds(5)};
   reachMethodPage();
   world.proceed();
   EXPECT_THAT(world.journal.only({"sleep"}), ElementsAre("sleep 4"));

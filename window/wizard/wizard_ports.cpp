@@ -1,9 +1,6 @@
 #include "window/wizard/wizard_ports.h"
 
-#include <array>
-
 #include "app/app_delegate.h"
-#include "methods/method_catalogue.h"
 #include "platform/linux/process/administrator.h"
 #include "platform/linux/process/program_search.h"
 #include "platform/linux/volumes/volume_names.h"
@@ -12,12 +9,6 @@
 
 namespace calvero {
 namespace {
-
-std::array<int, kMethodCount> passesOfTheMethods() {
-  std::array<int, kMethodCount> passes{};
-  for (const EraseMethod& method : kMethodCatalogue) passes.at(static_cast<std::size_t>(method.number)) = method.passes;
-  return passes;
-}
 
 AdministratorProgram terminalProgram() {
   constexpr const char* kName = "calvero-cli";
@@ -58,7 +49,6 @@ WizardPorts::WizardPorts(const SuiteServices& services)
       }) {
   window.setTexts(suite.texts);
   window.setSizeFormatter(&AppDelegate::getFormattedStringForSize);
-  window.setPasses(passesOfTheMethods());
   alerts.setMainWindow(&window);
   if (isWithoutDisplay()) popUp.onUndisplayed = [this](const std::string& text) { log.line(text); };
 }

@@ -15,10 +15,17 @@ namespace {
 
 constexpr std::chrono::milliseconds kLookInterval{100};
 
+std::vector<int> passesOf(MethodCatalogue methods) {
+  std::vector<int> passes;
+  for (const EraseMethod& method : methods) passes.push_back(method.passes);
+  return passes;
+}
+
 }  // namespace
 
 WizardSession::WizardSession(WizardPorts& ports, AppDelegate& app)
     : ports_(ports), app_(app), signals_(ports.dispatch, [this] { quit(); }) {
+  ports_.window.setPasses(passesOf(app.methods()));
   connectWizard();
   connectSideBar();
   connectWindows();
