@@ -118,7 +118,7 @@ class DetachedStart {
 }  // namespace
 
 std::optional<std::string> findWindowProgram(const std::string& ownFolder, const std::string& searchPath) {
-  const auto own = findBeside(ownFolder, {kWindowProgramName, kInBuildTree});
+  auto own = findBeside(ownFolder, {kWindowProgramName, kInBuildTree});
   if (own) return own;
   const auto inPath = findInPath(kWindowProgramName, searchPath);
   return inPath && isAdministrator() && changeableByOthers(*inPath) ? std::nullopt : inPath;

@@ -29,7 +29,7 @@ std::string outcomeWord(const WipeReport& report) {
 std::string causeOfFailure(const WipeReport& report, bool isMounted) {
   const std::string volume = volumeText(report);
   const Error& first = report.cause.failed() ? report.cause : report.firstFault;
-  const std::string cause = causeText(first.code, volume);
+  std::string cause = causeText(first.code, volume);
   if (first.code == ErrorCode::readOnly) return cause;
   // First, since that is what can be seen of a volume that was taken away, whatever became of its medium.
   if (!isMounted) return volume + " is not mounted any more";
