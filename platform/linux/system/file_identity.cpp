@@ -10,10 +10,11 @@ namespace calvero {
 namespace {
 
 constexpr std::uint64_t kStatBlockBytes = 512;
+constexpr std::int64_t kNanosecondsASecond = 1'000'000'000;
 
 std::optional<FileIdentity> readIdentity(int folder, const char* name, int flags) {
   struct statx found = {};
-  const unsigned mask = STATX_BASIC_STATS | STATX_MNT_ID;
+  const unsigned mask = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
   if (retryInterrupted([&] { return ::statx(folder, name, flags | AT_NO_AUTOMOUNT, mask, &found); }) != 0) return {};
   FileIdentity identity;
   identity.device = makedev(found.stx_dev_major, found.stx_dev_minor);
@@ -24,6 +25,9 @@ std::optional<FileIdentity> readIdentity(int folder, const char* name, int flags
   identity.links = found.stx_nlink;
   identity.sizeBytes = found.stx_size;
   identity.allocatedBytes = found.stx_blocks * kStatBlockBytes;
+  if ((found.stx_mask & STATX_BTIME) != 0) {
+    identity.bornNanoseconds = found.stx_btime.tv_sec * kNanosecondsASecond + found.stx_btime.tv_nsec;
+  }
   identity.locked = (found.stx_attributes & (STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND)) != 0;
   return identity;
 }

@@ -19,13 +19,16 @@ struct FileIdentity {
   std::uint64_t links = 0;
   std::uint64_t sizeBytes = 0;
   std::uint64_t allocatedBytes = 0;
-  bool locked = false;  ///< by an attribute that lets nobody change it, or only add to it
+  std::int64_t bornNanoseconds = 0;  ///< since the epoch; 0 where the file system does not tell
+  bool locked = false;               ///< by an attribute that lets nobody change it, or only add to it
 
   [[nodiscard]] bool isFolder() const { return S_ISDIR(mode); }
   [[nodiscard]] bool isSymbolicLink() const { return S_ISLNK(mode); }
   [[nodiscard]] bool isRegularFile() const { return S_ISREG(mode); }
+  /// A new file may get the number of one that was removed a moment ago, but not its time of birth.
   [[nodiscard]] bool isSameFile(const FileIdentity& other) const {
-    return inode == other.inode && device == other.device && isOnSameMount(other);
+    return inode == other.inode && bornNanoseconds == other.bornNanoseconds && device == other.device &&
+           isOnSameMount(other);
   }
   /// Tells a bind mount of the same file system from the file system's own folder, which the device number cannot.
   [[nodiscard]] bool isOnSameMount(const FileIdentity& other) const {
