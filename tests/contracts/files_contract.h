@@ -1,7 +1,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <time.h>
 
 #include <array>
 #include <cstdint>
@@ -9,10 +8,9 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <thread>
-#include <utility>
 
 #include "ports/files.h"
+#include "tests/coarse_clock.h"
 
 namespace calvero::testing {
 
@@ -339,17 +337,6 @@ TEST_P(FilesContract, RemovesTheNamesThatHoldSpaceWithTheDirectory) {
   EXPECT_FALSE(directory->remove().failed());
   EXPECT_FALSE(world_->directoryExists(directory_));
   EXPECT_EQ(directory->bytesNotKept(), 0U);
-}
-
-/// File systems take their times from a clock that is a few milliseconds coarse. What is made now may get the number of
-/// a file that was just removed, and is told from it by the time.
-inline void waitForTheNextTimestamp() {
-  const auto now = [] {
-    timespec time = {};
-    ::clock_gettime(CLOCK_REALTIME_COARSE, &time);
-    return std::pair(time.tv_sec, time.tv_nsec);
-  };
-  for (const auto before = now(); now() == before;) std::this_thread::yield();
 }
 
 TEST_P(FilesContract, TellsTheSpaceOfANameThatAnotherProgramHasRemoved) {

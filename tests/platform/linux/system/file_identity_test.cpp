@@ -2,27 +2,15 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <time.h>
 #include <unistd.h>
 
 #include <string>
-#include <utility>
 
+#include "tests/coarse_clock.h"
 #include "tests/scoped_folder.h"
 
 namespace calvero {
 namespace {
-
-/// File systems take their times from a clock that is a few milliseconds coarse.
-void waitForTheNextTimestamp() {
-  const auto now = [] {
-    timespec time = {};
-    ::clock_gettime(CLOCK_REALTIME_COARSE, &time);
-    return std::pair(time.tv_sec, time.tv_nsec);
-  };
-  for (const auto before = now(); now() == before;) {
-  }
-}
 
 FileIdentity made(const std::string& path) {
   ::close(::open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY, S_IRUSR | S_IWUSR));
@@ -36,7 +24,7 @@ TEST(FileIdentity, TellsAFileFromTheRemovedOneWhoseNumberItGot) {
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     FileIdentity removed = made(path);
     ::unlink(path.c_str());
-    waitForTheNextTimestamp();
+    testing::waitForTheNextTimestamp();
     const FileIdentity fresh = made(path);
     ::unlink(path.c_str());
     EXPECT_FALSE(fresh.isSameFile(removed));
