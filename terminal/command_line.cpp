@@ -24,7 +24,8 @@ namespace {
 constexpr const char* kExitCodes =
     "Exit codes:\n"
     "  0  finished\n"
-    "  1  failed: the volume or a filler file is gone, or writes failed\n"
+    "  1  failed: the volume or a filler file is gone, or writes failed; or only partly erased; or something is left\n"
+    "     behind; or the output could not be written\n"
     "  2  wrong usage\n"
     "  3  refused: read-only, not permitted, in use by another run, or no such volume\n"
     "  4  cancelled: Ctrl-C, a signal, or NO\n"
